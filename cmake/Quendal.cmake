@@ -1,0 +1,33 @@
+# Settings that every target of the project shares.
+
+add_library(quendal_options INTERFACE)
+target_compile_features(quendal_options INTERFACE cxx_std_20)
+# No contraction into fused operations: the numbers agree to the last bit on every machine.
+target_compile_options(quendal_options INTERFACE
+  -ffp-contract=off -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+  $<$<BOOL:${QUENDAL_WERROR}>:-Werror>)
+if(QUENDAL_SANITIZE)
+  target_compile_options(quendal_options INTERFACE
+    -fsanitize=${QUENDAL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(quendal_options INTERFACE -fsanitize=${QUENDAL_SANITIZE})
+endif()
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# A library of one folder of src/, with the folder's sources and what lies below it in the house.
+function(quendal_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC quendal_options ${ARG_LINKS})
+endfunction()
+
+# The tests of one folder, run under ctest one by one.
+function(quendal_tests name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE QUENDAL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE quendal_options ${ARG_LINKS} GTest::gtest GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()

@@ -1,0 +1,191 @@
+// What the kinds of controls do beyond the common base.
+#include "host/buttons.h"
+#include "host/form.h"
+#include "host/labels.h"
+#include "host/panels.h"
+#include "host/pictures.h"
+
+#include <algorithm>
+
+namespace quendal {
+
+void ctl_Button::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("bordercolor", borderColor_);
+    table.add("bordercolor2", borderColor2_);
+    table.add("script", script_);
+}
+
+void OptionButton::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("checked", checked_);
+}
+
+void OptionButton::setChecked(bool checked) {
+    if (checked) {
+        for (Control* other : form().controls()) {
+            auto* option = dynamic_cast<OptionButton*>(other);
+            if (option != nullptr && option != this && option->container() == container() &&
+                option->name() == name()) {
+                option->setChecked(false);
+            }
+        }
+    }
+    assign(checked_, checked, Aspect::Value);
+}
+
+void OptionButton::clicked() {
+    setChecked(true);
+    Control::clicked();
+}
+
+void CheckBox::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("checked", checked_);
+}
+
+void CheckBox::userChecked(bool checked) {
+    if (checked != checked_) {
+        userClicked();
+    }
+}
+
+void CheckBox::clicked() {
+    setChecked(!checked_);
+    Control::clicked();
+}
+
+void ctl_TermLabel::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.addGetter("term", [this] { return FieldValue(term()); });
+    table.add("tag", tag_);
+}
+
+void clt_TermInput::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.addGetter("term", [this] { return FieldValue(text()); });
+    table.add("locked", locked_);
+}
+
+namespace {
+
+// The first `limit` bytes without cutting a character in two.
+std::string cutText(const std::string& text, std::size_t limit) {
+    if (text.size() <= limit) {
+        return text;
+    }
+    std::size_t end = limit;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U) {
+        --end;
+    }
+    return text.substr(0, end);
+}
+
+} // namespace
+
+void clt_TermInput::userTyped(const std::string& text) {
+    if (locked_ || !shownThroughContainers() || !enabledThroughContainers()) {
+        return;
+    }
+    setText(cutText(text, kMaxLength));
+    if (onChange) {
+        onChange();
+    }
+}
+
+void RichTextBox::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("file", fileName_);
+}
+
+void ctl_Title::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("title", title_);
+}
+
+void ctl_CmdBar::userCommand(const std::string& command) {
+    if (shownThroughContainers() && enabledThroughContainers() && onCommand) {
+        onCommand(command);
+    }
+}
+
+void ctl_CmdBar::clicked() {
+    if (!buttons_.empty()) {
+        userCommand(buttons_.front().command);
+    }
+}
+
+void ctl_Executor::userCommand(const std::string& command) {
+    if (enabled() && onCommand) {
+        onCommand(command);
+    }
+}
+
+void TabControl::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("index", tab_);
+}
+
+void TabControl::setTab(int tab) {
+    const int last = std::max(0, static_cast<int>(captions_.size()) - 1);
+    assign(tab_, std::clamp(tab, 0, last), Aspect::Value);
+}
+
+void TabControl::userChose(int tab) {
+    if (!shownThroughContainers() || !enabledThroughContainers()) {
+        return;
+    }
+    setTab(tab);
+    Control::clicked();
+}
+
+void ListBox::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("index", listIndex_);
+    table.addGetter("items", [this] {
+        std::string list;
+        for (const std::string& item : items_) {
+            list += (list.empty() ? "" : ",") + item;
+        }
+        return FieldValue(list);
+    });
+}
+
+void ListBox::setItems(std::vector<std::string> items) {
+    assign(items_, std::move(items), Aspect::Items);
+    assign(listIndex_, -1, Aspect::Value);
+    setText({});
+}
+
+bool ListBox::setListIndex(int index) {
+    if (index < 0 || index >= static_cast<int>(items_.size())) {
+        return false;
+    }
+    assign(listIndex_, index, Aspect::Value);
+    setText(items_[static_cast<std::size_t>(index)]);
+    return true;
+}
+
+void ListBox::userChose(int index) {
+    if (shownThroughContainers() && enabledThroughContainers() && setListIndex(index)) {
+        Control::clicked();
+    }
+}
+
+void PictureBox::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("backcolor", backColor_);
+    table.addGetter("picture", [this] { return FieldValue(picture_ != nullptr); });
+}
+
+void ctl_DrAtom::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("Mood", mood_);
+    table.add("eyedirection", eyeDirection_);
+    table.add("eyemove", eyeMove_);
+    table.add("mouthopen", mouthOpen_);
+    table.add("orbspped", orbitSpeed_);
+    table.add("buble", bubble_);
+}
+
+} // namespace quendal

@@ -1,0 +1,96 @@
+#include "host/form.h"
+
+#include "host/roots.h"
+#include "host/window_system.h"
+
+#include <algorithm>
+
+namespace quendal {
+
+Form::Form(std::string name, Size design) : name_(std::move(name)), design_(design), inner_(design) {}
+
+Form::~Form() {
+    if (rootsInstalled()) {
+        CoreLib().Windows.forget(*this);
+    }
+}
+
+void Form::setCaption(std::string caption) {
+    if (caption != caption_) {
+        caption_ = std::move(caption);
+        if (shown_) {
+            CoreLib().Windows.captionChanged(*this);
+        }
+    }
+}
+
+void Form::moveTo(const Rect& place) {
+    wantedPlace_ = place;
+    if (shown_) {
+        CoreLib().Windows.placeChanged(*this);
+    }
+}
+
+Control* Form::findControl(const std::string& name, int index) const {
+    const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) {
+        return c->name() == name && c->index() == index;
+    });
+    return found == controls_.end() ? nullptr : *found;
+}
+
+void Form::setFocusTo(Control* control) {
+    if (focus_ != control) {
+        focus_ = control;
+    }
+    if (control != nullptr && control->peer() != nullptr) {
+        control->peer()->changed(Aspect::Focus);
+    }
+}
+
+void Form::focusNext(bool backward) {
+    std::vector<Control*> chain;
+    for (Control* control : controls_) {
+        if (control->takesFocus() && control->shownThroughContainers() &&
+            control->enabledThroughContainers()) {
+            chain.push_back(control);
+        }
+    }
+    if (chain.empty()) {
+        return;
+    }
+    if (backward) {
+        std::reverse(chain.begin(), chain.end());
+    }
+    const auto at = std::find(chain.begin(), chain.end(), focus_);
+    const bool wraps = at == chain.end() || at + 1 == chain.end();
+    setFocusTo(wraps ? chain.front() : *(at + 1));
+}
+
+bool Form::userKey(Key key, const std::string& character) {
+    if (Form_KeyDown(key)) {
+        return true;
+    }
+    if (focus_ != nullptr && focus_->userKey(key, character)) {
+        return true;
+    }
+    if (key == Key::Tab) {
+        focusNext();
+        return true;
+    }
+    return false;
+}
+
+void Form::describe(FieldTable& table) const {
+    table.add("caption", caption_);
+    table.add("width", inner_.width);
+    table.add("height", inner_.height);
+}
+
+void Form::resized(Size inner) {
+    if (!(inner == inner_)) {
+        inner_ = inner;
+        Form_Resize();
+    }
+}
+
+} // namespace quendal
