@@ -14,6 +14,8 @@ void CalcPresets::Add(const std::string& /*label*/, const std::string& term) {
     }
 }
 
-void CalcPresets::Finish() { open_ = false; }
+void CalcPresets::Finish() {
+    open_ = false;
+}
 
 } // namespace quendal

@@ -89,6 +89,9 @@ class ChartView {
 
   private:
     ChartDocument& document_;
+    PictureBox* target_ = nullptr; // valid while targetLife_ lasts
+    std::weak_ptr<const void> targetLife_;
+    double scale_ = 8.0;
     int activeSeries_ = 1;
 };
 

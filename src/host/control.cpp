@@ -51,7 +51,9 @@ void Control::setFocus() {
     }
 }
 
-bool Control::hasFocus() const { return form_.focus() == this; }
+bool Control::hasFocus() const {
+    return form_.focus() == this;
+}
 
 bool Control::shownThroughContainers() const {
     if (!visible_) {

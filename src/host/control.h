@@ -24,9 +24,9 @@ enum class Aspect {
     Picture, // icon or picture
     Value,   // checked, chosen index, mood ...
     Items,
-    Focus,   // the control wants the focus
-    Order,   // brought to the front or sent to the back
-    Drawing  // the picture box was drawn on
+    Focus,  // the control wants the focus
+    Order,  // brought to the front or sent to the back
+    Drawing // the picture box was drawn on
 };
 
 // What a host attaches to a control. Told of real changes only, after the fact.
@@ -114,7 +114,9 @@ class Control {
 
     // Path in the icon library, empty for none.
     const std::string& pictureIcon() const { return pictureIcon_; }
-    void setPictureIcon(std::string icon) { assign(pictureIcon_, std::move(icon), Aspect::Picture); }
+    void setPictureIcon(std::string icon) {
+        assign(pictureIcon_, std::move(icon), Aspect::Picture);
+    }
 
     // What a screen reader says when the text alone doesn't tell; empty: the text.
     const std::string& accessibleName() const { return accessibleName_; }

@@ -2,10 +2,10 @@
 #pragma once
 
 #include <cassert>
-#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace quendal {
 
@@ -14,7 +14,7 @@ class Form;
 template <class T>
 class ControlArray {
   public:
-    ControlArray(Form& form, std::string name, std::initializer_list<int> indices)
+    ControlArray(Form& form, std::string name, const std::vector<int>& indices)
         : form_(form), name_(std::move(name)) {
         for (const int index : indices) {
             load(index);

@@ -22,9 +22,6 @@ class Reader {
         if (!rest_.empty()) {
             syntax();
         }
-        if (fault_ == ExpressionFault::None && !std::isfinite(value)) {
-            fault_ = ExpressionFault::Range;
-        }
         return fault_ == ExpressionFault::None ? ExpressionResult{value, fault_}
                                                : ExpressionResult{0, fault_};
     }
@@ -34,9 +31,9 @@ class Reader {
         double value = product();
         for (;;) {
             if (take('+')) {
-                value += product();
+                value = finite(value + product());
             } else if (take('-')) {
-                value -= product();
+                value = finite(value - product());
             } else {
                 return value;
             }
@@ -47,7 +44,7 @@ class Reader {
         double value = factor();
         for (;;) {
             if (take('*')) {
-                value *= factor();
+                value = finite(value * factor());
             } else if (take('/')) {
                 value = quotient(value, factor());
             } else {
@@ -58,7 +55,7 @@ class Reader {
 
     double factor() {
         bool negative = false;
-        while (fault_ != ExpressionFault::Syntax) {
+        for (;;) {
             if (take('-')) {
                 negative = !negative;
             } else if (!take('+')) {
@@ -88,7 +85,7 @@ class Reader {
             return syntax();
         }
         rest_.remove_prefix(number.length);
-        return number.value;
+        return finite(number.value);
     }
 
     double parenthesis() {
@@ -106,7 +103,7 @@ class Reader {
     }
 
     double quotient(double dividend, double divisor) {
-        return divisor == 0 ? failed(ExpressionFault::DivisionByZero) : dividend / divisor;
+        return divisor == 0 ? failed(ExpressionFault::DivisionByZero) : finite(dividend / divisor);
     }
     double raised(double base, double exponent) {
         if (base == 0 && exponent < 0) {

@@ -15,6 +15,8 @@ struct FontSpec {
 };
 
 // A size in points as design px; the design grid has 96 px to the inch.
-constexpr double points(double pt) { return pt * 96.0 / 72.0; }
+constexpr double points(double pt) {
+    return pt * 96.0 / 72.0;
+}
 
 } // namespace quendal

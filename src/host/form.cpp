@@ -1,5 +1,6 @@
 #include "host/form.h"
 
+#include "host/panels.h"
 #include "host/roots.h"
 #include "host/window_system.h"
 
@@ -7,7 +8,8 @@
 
 namespace quendal {
 
-Form::Form(std::string name, Size design) : name_(std::move(name)), design_(design), inner_(design) {}
+Form::Form(std::string name, Size design)
+    : name_(std::move(name)), design_(design), inner_(design) {}
 
 Form::~Form() {
     if (rootsInstalled()) {
@@ -66,6 +68,41 @@ void Form::focusNext(bool backward) {
     setFocusTo(wraps ? chain.front() : *(at + 1));
 }
 
+namespace {
+
+// The button of a bar that a key presses: Enter the first one, Escape the one that aborts, or the
+// only one there is.
+const ctl_CmdBar::Button* barButton(const ctl_CmdBar& bar, Key key) {
+    const auto& buttons = bar.buttons();
+    if (buttons.empty()) {
+        return nullptr;
+    }
+    if (key == Key::Enter || buttons.size() == 1) {
+        return &buttons.front();
+    }
+    const auto abort = std::find_if(buttons.begin(), buttons.end(), [](const auto& button) {
+        return button.command.find("ABORT") != std::string::npos;
+    });
+    return abort == buttons.end() ? nullptr : &*abort;
+}
+
+// True when a bar of the form took the key.
+bool pressBar(const Form& form, Key key) {
+    for (Control* control : form.controls()) {
+        auto* bar = dynamic_cast<ctl_CmdBar*>(control);
+        if (bar == nullptr || !bar->shownThroughContainers() || !bar->enabledThroughContainers()) {
+            continue;
+        }
+        if (const auto* button = barButton(*bar, key)) {
+            bar->userCommand(std::string(button->command));
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 bool Form::userKey(Key key, const std::string& character) {
     if (Form_KeyDown(key)) {
         return true;
@@ -77,7 +114,7 @@ bool Form::userKey(Key key, const std::string& character) {
         focusNext();
         return true;
     }
-    return false;
+    return (key == Key::Enter || key == Key::Escape) && pressBar(*this, key);
 }
 
 void Form::describe(FieldTable& table) const {
@@ -87,7 +124,8 @@ void Form::describe(FieldTable& table) const {
 }
 
 void Form::resized(Size inner) {
-    if (!(inner == inner_)) {
+    if (!measured_ || !(inner == inner_)) {
+        measured_ = true;
         inner_ = inner;
         Form_Resize();
     }

@@ -54,8 +54,8 @@ class Form {
     // Moves the focus to the next control of the tab chain, or back.
     void focusNext(bool backward = false);
 
-    // Key press by the learner: the form sees it first, then the control with the focus.
-    // True when it was used up.
+    // Key press by the learner: the form sees it first, then the control with the focus, then the
+    // tab chain (Tab) or the form's bar of buttons (Enter and Escape). True when it was used up.
     bool userKey(Key key, const std::string& character = {});
 
     // The fields that scripts and tests may look at, under their names in the code.
@@ -93,6 +93,7 @@ class Form {
     WindowState windowState_ = WindowState::Normal;
     bool loaded_ = false;
     bool shown_ = false;
+    bool measured_ = false; // told its inner size since it was shown
     bool scalesItself_ = false;
     bool frameless_ = false;
 };

@@ -17,7 +17,8 @@ class HostControl {
     // "QUENDAL_CONTROL" and "GET".
     virtual std::string Query(const std::string& section, const std::string& verb,
                               const std::string& key) = 0;
-    // How far the learner has come. What follows `wrong` is always 0, 0, "", "", "STATUS", 0, 10, 1.
+    // How far the learner has come. What follows `wrong` is always 0, 0, "", "", "STATUS", 0,
+    // 10, 1.
     virtual void ReportProgress(int points, int wrong, int, int, const std::string&,
                                 const std::string&, const std::string& kind, int, int, int) = 0;
     // The result of a finished task; the last two are always 1 and "".

@@ -29,7 +29,8 @@ struct BoxReply {
 class HostObserver {
   public:
     virtual ~HostObserver() = default;
-    // A box opens. The reply is what the learner will do with it; always one that the kind can take.
+    // A box opens. The reply is what the learner will do with it; always one that the kind can
+    // take.
     virtual BoxReply boxOpened(const BoxEvent& event) = 0;
     // "signal 1", a name of the sound set, or a file name; also when sound is off it isn't called.
     virtual void soundPlayed(const std::string& name) = 0;

@@ -169,8 +169,8 @@ std::string NumberService::pointText(double value) {
     }
     char buffer[32];
     const double shown = value == 0 ? 0.0 : value; // no "-0"
-    const auto written = std::to_chars(buffer, buffer + sizeof buffer, shown,
-                                       std::chars_format::general, kDigits);
+    const auto written =
+        std::to_chars(buffer, buffer + sizeof buffer, shown, std::chars_format::general, kDigits);
     std::string text(buffer, written.ptr);
     std::replace(text.begin(), text.end(), 'e', 'E');
     return text;
@@ -187,8 +187,8 @@ std::string NumberService::classicText(double value) {
 
 std::string NumberService::picture(double value, std::string_view picture) const {
     const std::size_t point = std::min(picture.find('.'), picture.size());
-    const auto zeros = std::count(picture.begin() + static_cast<std::ptrdiff_t>(point),
-                                  picture.end(), '0');
+    const auto zeros =
+        std::count(picture.begin() + static_cast<std::ptrdiff_t>(point), picture.end(), '0');
     return Format(value, static_cast<int>(std::min<std::ptrdiff_t>(zeros, kMaxPlaces)));
 }
 

@@ -19,8 +19,12 @@ struct ScannedNumber {
 // without digits behind it doesn't belong to the number.
 ScannedNumber scanNumber(std::string_view text, DecimalSigns signs);
 
-constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr bool isBlank(char c) { return c == ' ' || c == '\t'; }
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 std::string_view trimBlanks(std::string_view text);
 
 } // namespace quendal

@@ -24,8 +24,7 @@ Overloaded(Handlers...) -> Overloaded<Handlers...>;
 
 std::string numberText(auto... arguments) {
     std::array<char, 32> buffer;
-    const auto written =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), arguments...);
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), arguments...);
     return {buffer.data(), written.ptr};
 }
 
@@ -57,14 +56,13 @@ std::string quoted(const std::string& text) {
 std::string arrayText(const VariantArray& values);
 
 std::string itemText(const Variant& item) {
-    return std::visit(
-        Overloaded{[](std::monostate) { return std::string("n"); },
-                   [](bool flag) { return std::string(flag ? "t" : "f"); },
-                   [](std::int32_t number) { return "i" + numberText(number); },
-                   [](double number) { return doubleText(number); },
-                   [](const std::string& text) { return quoted(text); },
-                   [](const VariantArray& values) { return arrayText(values); }},
-        item.value);
+    return std::visit(Overloaded{[](std::monostate) { return std::string("n"); },
+                                 [](bool flag) { return std::string(flag ? "t" : "f"); },
+                                 [](std::int32_t number) { return "i" + numberText(number); },
+                                 [](double number) { return doubleText(number); },
+                                 [](const std::string& text) { return quoted(text); },
+                                 [](const VariantArray& values) { return arrayText(values); }},
+                      item.value);
 }
 
 std::string arrayText(const VariantArray& values) {
@@ -142,7 +140,9 @@ class Unpacker {
         return word;
     }
 
-    bool readInteger(Variant& item) { return readWhole(word(), item.value.emplace<std::int32_t>()); }
+    bool readInteger(Variant& item) {
+        return readWhole(word(), item.value.emplace<std::int32_t>());
+    }
 
     bool readDouble(Variant& item) {
         const std::string_view number = word();

@@ -5,6 +5,8 @@
 #include "host/picture.h"
 #include "host/surface.h"
 
+#include <memory>
+
 namespace quendal {
 
 // A surface for controls that no host has given one: it knows its size and draws nothing.
@@ -46,8 +48,11 @@ class PictureBox final : public Control {
     void drawn() { notify(Aspect::Drawing); }
     // The host's surface must live as long as it is attached; null takes it away.
     void attachSurface(Surface* surface) { surface_ = surface; }
+    // Ends with the box, for whoever keeps a pointer to it for later.
+    std::weak_ptr<const void> life() const { return life_; }
 
   private:
+    std::shared_ptr<const void> life_ = std::make_shared<char>();
     NullSurface none_;
     Surface* surface_ = nullptr;
     PicturePtr picture_;

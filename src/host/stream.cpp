@@ -35,9 +35,13 @@ Stream::Stream(Mode mode, std::string bytes) : mode_(mode), bytes_(std::move(byt
     }
 }
 
-Stream Stream::writer() { return {Mode::Write, {}}; }
+Stream Stream::writer() {
+    return {Mode::Write, {}};
+}
 
-Stream Stream::reader(std::string bytes) { return {Mode::Read, std::move(bytes)}; }
+Stream Stream::reader(std::string bytes) {
+    return {Mode::Read, std::move(bytes)};
+}
 
 void Stream::WriteItem(const VariantArray& item) {
     if (mode_ == Mode::Write) {

@@ -1,5 +1,5 @@
-// Item-wise writing and reading of stored data. One item is an array of variants on one line, in the
-// packer's format, behind a header line; see docs/stored-data.md.
+// Item-wise writing and reading of stored data. One item is an array of variants on one line, in
+// the packer's format, behind a header line; see docs/stored-data.md.
 #pragma once
 
 #include "host/variant.h"

@@ -31,8 +31,8 @@ class Surface {
     virtual void Polygon(std::span<const Point> corners, Color outline) = 0;
     // `place` is the left upper corner of the text.
     virtual void Text(Point place, std::string_view text, const FontSpec& font, Color color) = 0;
-    // A plain copy with the left upper corner at `place`; a null picture draws nothing. Parts of the
-    // picture that are transparent stay untouched.
+    // A plain copy with the left upper corner at `place`; a null picture draws nothing. Parts of
+    // the picture that are transparent stay untouched.
     virtual void Copy(const PicturePtr& picture, Point place) = 0;
 
     void setFillStyle(FillStyle style) { fillStyle_ = style; }

@@ -66,7 +66,7 @@ class TermParser {
         auto fraction = std::make_shared<TermFraction>();
         fraction->numerator = parse(at + 1, close, nesting + 1);
         fraction->denominator = parse(open + 1, end, nesting + 1);
-        term.push_back({.text = {}, .style = TermStyle::Plain, .fraction = std::move(fraction)});
+        term.emplace_back().fraction = std::move(fraction);
         return closed ? end + 1 : end;
     }
 
@@ -78,28 +78,28 @@ class TermParser {
         return rest.starts_with(kMicroSign) || rest.starts_with(kGreekMu) ? 2 : 0;
     }
 
-    // The blank behind the shifted text is shown, the "|" isn't.
+    // The blank behind the shifted text is shown, the "|" isn't. A mark in it takes over.
     std::size_t addShifted(Term& term, std::size_t at, std::size_t mark, std::size_t to) {
         const TermStyle style = mark == 1 ? TermStyle::Superscript : TermStyle::Subscript;
-        const std::size_t begin = at + mark;
-        const std::size_t end = std::min(text_.find_first_of(" |", begin), to);
-        if (end > begin) {
-            term.push_back({.text = std::string(text_.substr(begin, end - begin)), .style = style});
+        std::size_t end = at + mark;
+        while (end < to && text_[end] != ' ' && text_[end] != '|' && markLength(end) == 0) {
+            append(term, style, text_[end++]);
         }
         return end < to && text_[end] == '|' ? end + 1 : end;
     }
 
     std::size_t addPlain(Term& term, std::size_t at) {
-        const bool goesOn = !term.empty() && term.back().style == TermStyle::Plain &&
-                            term.back().fraction == nullptr;
-        if (text_[at] == '|') {
-            return at + 1;
+        if (text_[at] != '|') {
+            append(term, TermStyle::Plain, text_[at]);
         }
-        if (!goesOn) {
-            term.emplace_back();
-        }
-        term.back().text += text_[at];
         return at + 1;
+    }
+
+    static void append(Term& term, TermStyle style, char c) {
+        if (term.empty() || term.back().style != style || term.back().fraction) {
+            term.emplace_back().style = style;
+        }
+        term.back().text += c;
     }
 
     std::string_view text_;
@@ -120,8 +120,12 @@ std::string plain(const Term& term) {
 
 } // namespace
 
-Term parseTerm(std::string_view markup) { return TermParser(markup).parse(); }
+Term parseTerm(std::string_view markup) {
+    return TermParser(markup).parse();
+}
 
-std::string plainTerm(std::string_view markup) { return plain(parseTerm(markup)); }
+std::string plainTerm(std::string_view markup) {
+    return plain(parseTerm(markup));
+}
 
 } // namespace quendal

@@ -26,7 +26,8 @@ struct TermFraction {
     Term denominator;
 };
 
-// "µ" lowers and "^" raises what follows up to the next blank or "|"; "|" ends it and isn't shown;
+// "µ" lowers and "^" raises what follows up to the next blank or "|", parentheses and operators
+// included; a mark before that takes over. "|" ends it and isn't shown.
 // "(a)/(b)" is a fraction, with nested parentheses kept whole; an unclosed denominator runs to the
 // end. Texts without marks stay one plain piece. Never fails, for any bytes.
 Term parseTerm(std::string_view markup);

@@ -17,6 +17,7 @@ bool WindowSystem::load(Form& form) {
     if (!form.loaded_) {
         form.loaded_ = true;
         loaded_.push_back(&form);
+        prepare(form);
         form.Form_Load();
     }
     return form.loaded_;
@@ -41,9 +42,12 @@ void WindowSystem::ShowModal(Form& form) {
 }
 
 void WindowSystem::Unload(Form& form) {
-    if (!form.loaded_ || !form.Form_QueryUnload(UnloadReason::Code)) {
-        return;
+    if (form.loaded_ && form.Form_QueryUnload(UnloadReason::Code)) {
+        takeDown(form);
     }
+}
+
+void WindowSystem::takeDown(Form& form) {
     form.loaded_ = false;
     form.Form_Unload();
     for (Timer* timer : form.timers_) {
@@ -53,6 +57,7 @@ void WindowSystem::Unload(Form& form) {
     std::erase(modal_, &form);
     if (form.shown_) {
         form.shown_ = false;
+        form.measured_ = false;
         form.focus_ = nullptr;
         withdraw(form);
     }
@@ -68,8 +73,9 @@ void WindowSystem::UnloadAll(const Form* kept) {
 }
 
 void WindowSystem::userClosed(Form& form) {
-    if (form.shown_ && form.Form_QueryUnload(UnloadReason::User)) {
-        Unload(form);
+    // Whoever is asked may have taken the form down already.
+    if (form.shown_ && form.Form_QueryUnload(UnloadReason::User) && form.loaded_) {
+        takeDown(form);
     }
 }
 
@@ -78,7 +84,9 @@ void WindowSystem::forget(Form& form) {
     std::erase(modal_, &form);
 }
 
-Form* WindowSystem::top() const { return modal_.empty() ? nullptr : modal_.back(); }
+Form* WindowSystem::top() const {
+    return modal_.empty() ? nullptr : modal_.back();
+}
 
 void WindowSystem::waitWhile(const std::function<bool()>& open) {
     DoEvents();

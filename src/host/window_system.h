@@ -55,6 +55,9 @@ class WindowSystem {
     virtual void deliverEvents() = 0;
     // Waits until something is pending or the clock reaches `until` (seconds; infinity: no limit).
     virtual void waitForEvents(double until) = 0;
+    // Called before the form's Load: a host gives its picture boxes their surfaces, so that what
+    // Load draws isn't lost.
+    virtual void prepare(Form& /*form*/) {}
     // Makes the form visible with all its controls and reports its inner size with resize().
     virtual void realise(Form& form, bool modal) = 0;
     virtual void withdraw(Form& form) = 0;
@@ -66,6 +69,7 @@ class WindowSystem {
 
   private:
     bool load(Form& form);
+    void takeDown(Form& form);
 
     std::vector<Form*> loaded_;
     std::vector<Form*> modal_;

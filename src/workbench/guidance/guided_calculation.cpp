@@ -1,0 +1,235 @@
+#include "workbench/guidance/guided_calculation.h"
+
+#include "host/calculator.h"
+#include "host/number_service.h"
+#include "host/roots.h"
+#include "host/sound.h"
+#include "host/window_system.h"
+#include "shell/session/session.h"
+#include "workbench/workbench.h"
+
+#include <algorithm>
+
+namespace quendal {
+
+GuidedCalculation::GuidedCalculation(Workbench& bench, const GuidanceTables& tables,
+                                     const PanelSize& size)
+    : frm_Calc(bench, "frm_Calc"), lab_CalcStep(bench, "lab_CalcStep", 0, size.headings - 1),
+      lin_Calc(bench, "lin_Calc", 1, 4), lab_Calc(bench, "lab_Calc", 0, size.labels - 1),
+      txt_Calc(bench, "txt_Calc", size.inputs), opt_Calc(bench, "opt_Calc", 0, size.options - 1),
+      opt_CalcStore(bench, "opt_CalcStore", {3}), but_CalcPH(bench, "but_CalcPH", size.calcButtons),
+      but_CalcStep(bench, "but_CalcStep", 1, kOneClick), but_AchtungRW(bench, "but_AchtungRW"),
+      bench_(bench), tables_(tables) {
+    hookEvents();
+}
+
+void GuidedCalculation::hookEvents() {
+    but_CalcStep.each([this](int index, ctl_Button& button) {
+        button.onClick = [this, index] { but_CalcStep_Click(index); };
+    });
+    but_CalcPH.each([this](int index, ctl_Button& button) {
+        button.onClick = [this, index] { but_CalcPH_Click(index); };
+    });
+}
+
+void GuidedCalculation::but_HelpCalc_Click() {
+    bench_.vMismatch = 0;
+    bench_.frm_CalcDirect.setVisible(false);
+    frm_Calc.setVisible(true);
+    bench_.hHideMainControls();
+    frm_Calc.bringToFront();
+    vTries_ = 0;
+    vStepReached_.fill(false);
+    const bool demo = bench_.vDemo;
+    // A demo shows the long way.
+    details_ = {.acid = demo, .base = demo, .conc = demo};
+    vAutoRun_ = false;
+    for (int step = 1; step <= kSteps; ++step) {
+        but_CalcStep(step).setText(demo ? "D-Klick!" : "Weiter!");
+    }
+    hCalcStepShow(1);
+    if (opt_CalcStore(3).checked()) {
+        clearInputs(4);
+        hCalcStepShow(6);
+        txt_Calc(6).setFocus();
+    } else {
+        clearInputs(1);
+        hCalcStepShow(1);
+    }
+}
+
+void GuidedCalculation::clearInputs(int from) {
+    txt_Calc.each([from](int index, clt_TermInput& input) {
+        if (index >= from) {
+            input.setText({});
+        }
+    });
+}
+
+void GuidedCalculation::hCalcStepShow(int step) {
+    if (bench_.vDemo && bench_.titrantMl() == bench_.vLastVol) {
+        return; // this point has been shown
+    }
+    sStep_ = std::clamp(step == -1 ? sStep_ + 1 : step, 1, kSteps);
+    if (bench_.vDemo) {
+        but_CalcStep(kOneClick).setVisible(!waysChangeHere());
+        but_AchtungRW.setVisible(waysChangeHere());
+    }
+    sStep_ = route(sStep_);
+    vStepReached_[static_cast<std::size_t>(sStep_)] = true;
+    layOut();
+    focusStep();
+    if (vAutoRun_ && sStep_ < tables_.lastStep) {
+        but_CalcStep_Click(sStep_);
+    }
+}
+
+void GuidedCalculation::focusStep() {
+    if (sStep_ == tables_.choiceStep) {
+        but_CalcStep(sStep_).setFocus();
+    } else if (txt_Calc.has(sStep_)) {
+        txt_Calc(sStep_).setFocus();
+    }
+}
+
+const StepRow* GuidedCalculation::rowOf(int step) const {
+    const auto row = std::find_if(tables_.steps.begin(), tables_.steps.end(),
+                                  [step](const StepRow& r) { return r.step == step; });
+    return row == tables_.steps.end() ? nullptr : &*row;
+}
+
+void GuidedCalculation::but_CalcStep_Click(int index) {
+    point_ = referenceValues();
+    if (bench_.vVol == 0) {
+        return;
+    }
+    if (index == kOneClick) {
+        but_CalcStep(kOneClick).setVisible(false);
+        vAutoRun_ = true;
+        index = 1;
+    }
+    if (bench_.vDemo) {
+        for (const StepRow& row : tables_.steps) {
+            fillIn(row);
+        }
+    }
+    const StepRow* row = rowOf(index);
+    if (row != nullptr && !passes(*row)) {
+        climbLadder(index);
+        return;
+    }
+    if (index == tables_.lastStep) {
+        pointPassed();
+    }
+    hCalcStepShow(-1);
+    vTries_ = 0;
+}
+
+void GuidedCalculation::pointPassed() {
+    bench_.hShowMainControls();
+    frm_Calc.setVisible(false);
+    if (bench_.vMismatch == 0 && !bench_.vDemo) {
+        HostApp().SoundBank.Signal(2);
+    }
+    bench_.vLastVol = bench_.titrantMl();
+    bench_.hPointDone(point_.reading);
+    bench_.but_phCompare_Click();
+}
+
+bool GuidedCalculation::passes(const StepRow& row) {
+    if (row.check == Check::Choice) {
+        return opt_Calc(point_.choice).checked();
+    }
+    const std::string answer = txt_Calc(row.step).text();
+    if (equalsFill(row, answer)) {
+        return true;
+    }
+    if (row.check == Check::Exact) {
+        return CoreLib().NumberService.Parse(answer) == row.expected(point_);
+    }
+    return !bench_.hUnequal(answer, row.expected(point_), row.digits);
+}
+
+// What the tutor would write is right by definition: without this, exact comparison would refuse
+// "0,014" for 1.4 times 0.01, whose double is another one.
+bool GuidedCalculation::equalsFill(const StepRow& row, const std::string& answer) const {
+    const NumberService& numbers = CoreLib().NumberService;
+    return numbers.Parse(answer) == numbers.Parse(fillText(row));
+}
+
+std::string GuidedCalculation::fillText(const StepRow& row) const {
+    const NumberService& numbers = CoreLib().NumberService;
+    switch (row.fill) {
+    case Fill::Literal:
+        return std::string(row.literal);
+    case Fill::Picture2:
+        return numbers.picture(row.expected(point_), "#0.00");
+    case Fill::Picture3:
+        return numbers.picture(row.expected(point_), "#0.000");
+    case Fill::DefaultText:
+        break;
+    }
+    return numbers.text(row.expected(point_));
+}
+
+void GuidedCalculation::fillIn(const StepRow& row) {
+    if (row.check == Check::Choice) {
+        opt_Calc(point_.choice).setChecked(true);
+    } else {
+        txt_Calc(row.step).setText(fillText(row));
+    }
+}
+
+bool GuidedCalculation::clickDueStep() {
+    for (int step = 1; step <= kSteps; ++step) {
+        // The choice keeps the key for its own button, which has the focus there.
+        if (step != tables_.choiceStep && but_CalcStep(step).visible()) {
+            but_CalcStep(step).userClicked();
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string GuidedCalculation::resultText(int /*index*/, double value) const {
+    return CoreLib().NumberService.Format(value, 3);
+}
+
+void GuidedCalculation::but_CalcPH_Click(int index) {
+    constexpr int kDirect = 2;
+    constexpr double kLift = 50; // px that the popup stands above the balance
+    const Rect& holder = bench_.frm_Holder.place();
+    const Rect& balance = bench_.frm_Bilanz.place();
+    CalcPresets presets;
+    presets.Init(8);
+    for (const std::string& line : presetLines(index)) {
+        presets.Add(" ", line);
+    }
+    presets.Finish();
+    const bool offered =
+        index == kDirect ? session().SessionCalcTermDirect : session().SessionCalcTerm;
+    if (!offered) {
+        presets.Clear();
+    }
+    const auto result =
+        HostApp().Calculator.Show(0, 0, (holder.left + balance.left) * kTwipsPerUnit,
+                                  (holder.top + balance.top - kLift) * kTwipsPerUnit, presets);
+    if (!result) {
+        return;
+    }
+    clt_TermInput& input = index == kDirect ? bench_.txt_Ph : txt_Calc(index);
+    input.setText(resultText(index, *result));
+    input.setFocus();
+}
+
+void GuidedCalculation::describe(FieldTable& table) const {
+    table.add("sStep", sStep_);
+    table.addArray("vStepReached", vStepReached_);
+    table.add("vAutoRun", vAutoRun_);
+    table.add("vTries", vTries_);
+    table.add("vDetailAcid", details_.acid);
+    table.add("vDetailBase", details_.base);
+    table.add("vDetailConc", details_.conc);
+}
+
+} // namespace quendal

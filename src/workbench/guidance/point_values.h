@@ -1,0 +1,22 @@
+// Reference values of one titration point, as a model gives them and the tutor checks against.
+#pragma once
+
+namespace quendal {
+
+struct PointValues {
+    double concentration = 0; // mol/L of the sample as given in the task
+    double acidVol = 0;       // L of the sample
+    double acidMol = 0;       // mol of the sample
+    double baseConc = 0;      // mol/L of the reagent
+    double baseVol = 0;       // L of the reagent
+    double baseMol = 0;       // mol of the reagent
+    double totalVol = 0;      // L in the beaker
+    double conc = 0;          // mol/L of what is in excess
+    double excess = 0;        // mol in excess, rounded to 3 decimals
+    double pOH = 0;           // behind the equivalence point only
+    double reading = 0;       // pH or potential, the point's y
+    int choice = 0;           // which option of the choice is right, from 0
+    bool baseInExcess = false;
+};
+
+} // namespace quendal

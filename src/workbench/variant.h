@@ -1,0 +1,70 @@
+// What a workbench form differs in from the others, as data.
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace quendal {
+
+// When a balance line shows "~~ ": a species whose true amount is small but not nothing.
+enum class Trace {
+    Never,
+    FromEquivalence, // content of the beaker at or above that of the equivalence point
+    UpToEquivalence  // at or below it
+};
+
+// How a balance line gets its number.
+enum class Balance {
+    Counted,           // particles of the kind in the beaker
+    SampleLessChloride // 10 times the concentration less the Cl- counted
+};
+
+// A line of the balance of amounts.
+struct BalanceLine {
+    int kind;   // particle kind
+    int legend; // sort of the sample particle in the legend; negative shows its sign
+    std::string_view term;
+    std::string_view spoken; // for a screen reader
+    Trace trace = Trace::Never;
+    Balance balance = Balance::Counted;
+};
+
+// The pair of particles that falls for one mL (burette) or one mmol (pipette).
+struct DropPair {
+    int first;
+    int second;
+};
+
+struct TaskTexts {
+    std::string_view sampleBefore; // pipette line, up to the concentration
+    std::string_view sampleAfter;  // and behind it
+    std::string_view reagent;      // burette line
+    std::string_view calculate;    // calculation line in the calculation mode
+    std::string_view calculateDemo;
+    std::string_view finished;
+};
+
+struct WorkbenchVariant {
+    std::string_view formName;
+    std::string_view caption;
+    std::string_view curveStem; // "phstark": the concentration and ".crv" follow
+    std::string_view seriesName;
+    std::string_view helpFile;
+    std::string_view readingName;      // term
+    std::string_view readingUnit;      // behind the reading, with its blank
+    std::string_view calculationTitle; // of both calculation frames
+    std::string_view wrongDirect;      // question after a wrong direct answer
+    TaskTexts task;
+    std::vector<BalanceLine> species;
+    DropPair pipette; // in the order of falling
+    DropPair burette; // first at x - 2, second at x + 2
+    // Kinds of which each landed drop counts one mL; the others ride along.
+    std::vector<int> countingKinds;
+    int buretteCountingKind; // the one of them that the burette makes
+    int directDigits;        // decimals that count in the direct answer
+    bool plainChloride;      // Cl- shows no sign in the beaker
+    bool countsParticles;    // the model reads the particles, so reactions must have ended
+};
+
+} // namespace quendal

@@ -1,0 +1,62 @@
+// The reference curve and the learner's series on it.
+#include "workbench/workbench.h"
+
+#include "host/chart.h"
+#include "host/file_service.h"
+#include "host/message_box.h"
+#include "host/number_service.h"
+#include "host/path_service.h"
+#include "host/roots.h"
+#include "shell/session/session.h"
+
+#include <algorithm>
+
+namespace quendal {
+
+namespace {
+
+constexpr const char* kFallbackCurve = "ph.crv";
+
+// "phstark" and 0.8 give "phstark08.crv", whatever the locale's decimal sign.
+std::string curveName(std::string_view stem) {
+    std::string digits = CoreLib().NumberService.picture(session().SessionConcentration, "0.0");
+    std::erase(digits, ',');
+    std::erase(digits, '.');
+    return std::string(stem) + digits + ".crv";
+}
+
+} // namespace
+
+void Workbench::openCurve() {
+    ChartDocuments& documents = session().SessionChartFactory->Documents();
+    while (documents.Count() >= 1) {
+        documents.Close(1, -1, 0, 0);
+    }
+    const std::string folder = HostApp().PathService.DataPath();
+    const std::string name = curveName(variant_.curveStem);
+    const bool found = CoreLib().FileService.FileExists(folder + name);
+    ChartDocument& curve = documents.Open(folder + (found ? name : kFallbackCurve), 0, 0, 0);
+    if (!found) {
+        CoreLib().MessageBox.Ok(
+            "Die Datei '" + name +
+                "' wurde nicht gefunden - zum Vergleich Deiner Werte kann ich daher leider nur die "
+                "Standard-pH-Kurver zu Rate ziehen!",
+            "");
+    }
+    ChartSeries& reference = curve.Series(1);
+    ChartSeries& mine = curve.AddSeries(1, std::string(variant_.seriesName));
+    mine.Axes = reference.Axes;
+    mine.Style = {.LineVisible = false,
+                  .MarkerVisible = true,
+                  .MarkerStyle = 2,
+                  .MarkerSize = 6,
+                  .MarkerSetting = 8,
+                  .Colour = palette(12)};
+    session().SessionCurve = &curve;
+    session().SessionCurveSeries = &reference;
+    session().SessionChartView = &curve.Axes(1);
+    session().SessionMySeries = &mine;
+    session().SessionChartView->SetActiveSeries(curve.indexOf(mine), -1);
+}
+
+} // namespace quendal

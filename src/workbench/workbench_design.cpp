@@ -1,0 +1,183 @@
+// Places of the controls that all workbenches share: the apparatus at the left, the tutor and the
+// task sheet beside it, at the right what the learner reads off.
+#include "shell/forms/arrange.h"
+#include "workbench/workbench.h"
+
+namespace quendal {
+
+namespace {
+
+constexpr double kMargin = 8;
+constexpr double kMiddle = 322; // left edge of the task sheet
+constexpr double kMiddleWidth = 462;
+constexpr double kRight = 792; // left edge of the readings
+constexpr double kRightWidth = 200;
+constexpr Rect kApparatus{4, 0, 312, 690};
+constexpr double kBeakerTop = 284;
+constexpr Color kGround{244, 247, 247};
+
+const FontSpec kLarge{.size = points(16)};
+
+void label(ctl_Label& control, Control& container, Rect place, const char* text,
+           const FontSpec& font = kTextFont) {
+    arrange(control, container, place, font);
+    control.setText(text);
+}
+
+void term(ctl_TermLabel& control, Control& container, Rect place, const std::string& text,
+          const FontSpec& font = kTextFont) {
+    arrange(control, container, place, font);
+    control.setTerm(text);
+}
+
+void button(ctl_Button& control, Control& container, Rect place, const char* text,
+            const char* icon = "") {
+    arrange(control, container, place);
+    control.setText(text);
+    control.setPictureIcon(icon);
+}
+
+void frame(ctl_Frame& control, Control& container, Rect place, std::string text,
+           const char* icon = "") {
+    arrange(control, container, place, {.size = 14, .bold = true});
+    control.setText(std::move(text));
+    control.setPictureIcon(icon);
+}
+
+} // namespace
+
+void Workbench::design() {
+    frm_Holder.setPlain(true);
+    frm_Holder.setPlace(0, 0, designSize().width, designSize().height);
+    designApparatus();
+    designTaskSheet();
+    designReadings();
+    designScore();
+    designDirectInput();
+}
+
+void Workbench::designApparatus() {
+    pic_Above.setContainer(frm_Holder);
+    pic_Above.setPlace(kApparatus.left, 0, kApparatus.width, kBeakerTop);
+    pic_Above.setAccessibleName("Pipette und Bürette: Klick gibt Flüssigkeit zu");
+    pic_BowlOuter.setContainer(frm_Holder);
+    pic_BowlOuter.setPlace(kApparatus.left, kBeakerTop, kApparatus.width, 400);
+    pic_BowlOuter.setAccessibleName("Becherglas");
+    pic_Bowl.setContainer(pic_BowlOuter);
+    pic_Bowl.setPlace(20, 60, kApparatus.width - 40, 320);
+    pic_Water.setContainer(pic_BowlOuter);
+    pic_Water.setAccessibleName("Teilchen in der Lösung");
+    pic_Water.setVisible(false);
+    pic_Glass.setContainer(pic_BowlOuter);
+    pic_Glass.setOverlay(true);
+    pic_Glass.setPlace(0, 0, kApparatus.width, 400);
+    for (PictureBox* picture : {&pic_Above, &pic_BowlOuter, &pic_Bowl}) {
+        picture->setBackColor(kGround);
+    }
+    for (const int index : {0, 1}) {
+        button(but_Add(index), frm_Holder, {8, 8, 120, 28},
+               index == 0 ? "10 mol HCL" : "1 Mol NaOh");
+        but_Add(index).setVisible(false);
+    }
+}
+
+void Workbench::designTaskSheet() {
+    constexpr double kTextLeft = 36;
+    constexpr double kTextWidth = kMiddleWidth - kTextLeft - 12;
+    frame(ctl_Frame2, frm_Holder, {kMiddle, kMargin, kMiddleWidth, 416}, "Aufgabenzettel",
+          "Ico\\20\\Computer\\Signs\\Checked.ico");
+    constexpr double kTops[] = {48, 222, 324};
+    pic_Step.each([&](int index, ctl_Image& image) {
+        image.setContainer(ctl_Frame2);
+        image.setPlace(12, kTops[index], 18, 18);
+    });
+    label(lab_Step(0), ctl_Frame2, {kTextLeft, kTops[0], kTextWidth, 56}, "");
+    button(ctl_Button1, ctl_Frame2, {kTextLeft, 104, 180, 30}, "'Klick auf die Pipette'");
+    label(lab_Step1, ctl_Frame2, {kTextLeft, 152, kTextWidth, 60}, "");
+    button(ctl_Button3, ctl_Frame2, {kTextLeft + 62, 146, 112, 28}, "Bürette ");
+    label(lab_Step(1), ctl_Frame2, {kTextLeft, kTops[1], kTextWidth, 60}, "");
+    button(ctl_Button2, ctl_Frame2, {kTextLeft + 62, kTops[1] - 6, 112, 28}, "Berechnen!");
+    label(lab_Step(2), ctl_Frame2, {kTextLeft, kTops[2], kTextWidth, 80}, "");
+    ctl_Button2.setVisible(false);
+    ctl_Button3.setVisible(false);
+
+    frame(frm_Reading, frm_Holder, {kMiddle, 434, kMiddleWidth, 96}, "Letzter Punkt");
+    term(lab_pHName, frm_Reading, {16, 46, 140, 34}, std::string(variant().readingName), kLarge);
+    label(lab_pH, frm_Reading, {160, 42, 280, 40}, "–", kReadingFont);
+    lab_pH.setAccessibleName("Zuletzt berechneter Wert");
+
+    button(but_Calc, frm_Holder, {kMiddle, 638, 146, 42}, "Berechnen!");
+    but_Calc.setVisible(false);
+    button(but_Help, frm_Holder, {kMiddle + 154, 638, 154, 42}, "Ausführliche Hilfe",
+           "Ico\\16\\Computer\\Signs\\Help.ico");
+    button(but_phCompare, frm_Holder, {kMiddle + 316, 638, 146, 42}, "pH-Kurve anzeigen");
+}
+
+void Workbench::designReadings() {
+    frame(frm_Volumes, frm_Holder, {kRight, kMargin, kRightWidth, 164}, "Angaben");
+    static constexpr const char* kNames[] = {
+        "VµV(S)     = ", "VµZ(OH-) =", "cµV(S) =", "cµZ(OH-) = 1 mol/L"};
+    lab_VolLabel.each([&](int index, ctl_TermLabel& name) {
+        const bool alone = !lab_Vol.has(index);
+        term(name, frm_Volumes, {12, 42.0 + 29 * index, alone ? 176.0 : 84.0, 26}, kNames[index]);
+    });
+    lab_Vol.each([&](int index, ctl_TermLabel& value) {
+        term(value, frm_Volumes, {96, 42.0 + 29 * index, 96, 26}, "0 mL",
+             {.size = 15, .bold = true});
+    });
+
+    frame(frm_Bilanz, frm_Holder, {kRight, 182, kRightWidth, 262}, "Aktuelle Stoffmengenbilanz",
+          "Ico\\20\\Science\\Math\\Generic.ico");
+    pic_Bilanz.each([&](int index, PictureBox& picture) {
+        const double top = 44.0 + 42 * index;
+        picture.setContainer(frm_Bilanz);
+        picture.setPlace(8, top, 40, 38);
+        picture.setBackColor(kWhite);
+        term(lab_Bilanz(index), frm_Bilanz, {50, top + 4, 64, 32}, "", kLarge);
+        term(lab_BilanzCount(index), frm_Bilanz, {112, top + 4, 84, 32}, "0 mol", kLarge);
+        lab_BilanzCount(index).setTextAlign(TextAlign::Right);
+    });
+}
+
+void Workbench::designScore() {
+    frame(frm_Score, frm_Holder, {kRight, 454, kRightWidth, 170}, "Stand");
+    struct ScoreLine {
+        ctl_Label& name;
+        ctl_Label& value;
+        const char* text;
+    };
+    const ScoreLine lines[] = {{Label2, lab_punktegerechnet, "Tit-Pkte:"},
+                               {Label1, Lab_Vallmista, "Fehler:"},
+                               {Label3, lab_solveuse, "Lösungen:"},
+                               {Label4, lab_helpused, "Hilfen:"}};
+    double top = 44;
+    for (const ScoreLine& line : lines) {
+        label(line.name, frm_Score, {38, top, 90, 26}, line.text);
+        label(line.value, frm_Score, {132, top, 52, 26}, "0", {.size = 15, .bold = true});
+        line.value.setTextAlign(TextAlign::Right);
+        top += 30;
+    }
+    ctl_Image1.setContainer(frm_Score);
+    ctl_Image1.setPlace(12, 46, 18, 18);
+    ctl_Image1.setPictureIcon("Ico\\16\\Computer\\Signs\\Ok.ico");
+    ctl_Image2.setContainer(frm_Score);
+    ctl_Image2.setPlace(12, 76, 18, 18);
+    ctl_Image2.setPictureIcon("Ico\\16\\Computer\\Signs\\No.ico");
+}
+
+void Workbench::designDirectInput() {
+    frame(frm_CalcDirect, frm_Holder, {kMiddle, 434, kMiddleWidth, 190},
+          std::string(variant().calculationTitle), "Ico\\16\\Business\\Office\\Calculator.ico");
+    frm_CalcDirect.setVisible(false);
+    term(lab_CalcX, frm_CalcDirect, {24, 60, 70, 32}, "pH =", kLarge);
+    lab_CalcX.setTextAlign(TextAlign::Right);
+    txt_Ph.setContainer(frm_CalcDirect);
+    txt_Ph.setPlace(102, 58, 130, 36);
+    txt_Ph.setFont(kLarge);
+    txt_Ph.setAccessibleName(std::string(variant().calculationTitle));
+    button(but_CalcDone, frm_CalcDirect, {290, 58, 140, 36}, "&Fertig");
+    button(but_HelpCalc, frm_CalcDirect, {290, 112, 140, 36}, "Wie geht das?",
+           "Ico\\16\\Computer\\Signs\\Help.ico");
+}
+
+} // namespace quendal

@@ -1,0 +1,186 @@
+// Pipette, burette and beaker as pictures.
+#include "workbench/workbench.h"
+
+#include "host/clock.h"
+#include "host/number_service.h"
+#include "host/roots.h"
+#include "shell/forms/frm_AppResource.h"
+#include "shell/forms/instances.h"
+#include "shell/session/session.h"
+
+#include <algorithm>
+
+namespace quendal {
+
+namespace {
+
+constexpr double kMoveTime = 3.0; // s of a move of a glass
+
+// Null beyond the frames that are there: such a frame draws nothing.
+PicturePtr frameOf(ControlArray<PictureBox>& buffer, int frame) {
+    return frame >= 1 && buffer.has(frame) ? buffer(frame).picture() : nullptr;
+}
+
+void keep(int& stored, int argument) {
+    if (argument != -1) {
+        stored = argument;
+    }
+}
+
+double heightOf(const PicturePtr& picture) {
+    return picture ? picture->height() : 0.0;
+}
+
+} // namespace
+
+PicturePtr Workbench::pipetteFrame(int frame) const {
+    return frameOf(appResource().pic_AblasserBuffer, frame);
+}
+
+PicturePtr Workbench::buretteFrame(int frame) const {
+    return frameOf(appResource().pic_BüretteBuffer, frame);
+}
+
+void Workbench::hPipetteDraw(int frame, int x, int y) {
+    keep(sPipFrame, frame == 0 ? 1 : frame);
+    keep(vPipX, x);
+    keep(vPipY, y);
+    drawGlasses();
+}
+
+void Workbench::hBuretteDraw(int frame, int x, int y) {
+    keep(sBurFrame, frame == 0 ? 1 : frame);
+    keep(vBurX, x);
+    keep(vBurY, y);
+    drawGlasses();
+}
+
+void Workbench::drawGlasses() {
+    shown_.stillScene = false;
+    if (vPipShown) {
+        copyGlass(pipetteFrame(sPipFrame), frameOf(appResource().pic_AblasserBufferBowl, sPipFrame),
+                  vPipX, vPipY);
+    }
+    if (vBurShown) {
+        copyGlass(buretteFrame(sBurFrame), frameOf(appResource().pic_BüretteBufferBowl, sBurFrame),
+                  vBurX, vBurY);
+    }
+}
+
+// The glass reaches from the space above into the beaker: three pictures show their share of it, so
+// that its tip stands before the beaker and behind the liquid.
+void Workbench::copyGlass(const PicturePtr& clean, const PicturePtr& bowlCopy, int x, int y) {
+    const Rect& above = pic_Above.place();
+    const Rect& outer = pic_BowlOuter.place();
+    const Rect& bowl = pic_Bowl.place();
+    const Point inAbove{static_cast<double>(x), static_cast<double>(y)};
+    const Point inOuter{inAbove.x + above.left - outer.left, inAbove.y + above.top - outer.top};
+    pic_Above.surface().Clear();
+    pic_Above.surface().Copy(clean, inAbove);
+    pic_Above.drawn();
+    pic_BowlOuter.surface().Clear();
+    pic_BowlOuter.surface().Copy(clean, inOuter);
+    pic_BowlOuter.drawn();
+    pic_Bowl.surface().Copy(bowlCopy, {inOuter.x - bowl.left, inOuter.y - bowl.top});
+}
+
+void Workbench::hPipetteOut() {
+    vPipReady = false;
+    vCalm = true;
+    const double start = CoreLib().Clock.Now();
+    const double from = vPipY;
+    const double height = heightOf(pipetteFrame(sPipFrame));
+    for (double t = 0; t < kMoveTime && !session().SessionRestart;
+         t = CoreLib().Clock.Now() - start) {
+        hPipetteDraw(-1, -1, roundToInt((-height - from) * t / kMoveTime + from));
+        hXEvents();
+    }
+    hPipetteDraw(-1, -1, roundToInt(-height));
+    vPipShown = false;
+}
+
+void Workbench::hBuretteIn() {
+    vBurShown = true;
+    const double height = heightOf(buretteFrame(1));
+    const double start = CoreLib().Clock.Now();
+    for (double t = 0; t < kMoveTime && !session().SessionRestart;
+         t = CoreLib().Clock.Now() - start) {
+        hBuretteDraw(-1, -1, roundToInt(height * t / kMoveTime - height - vBurGap));
+        hXEvents();
+    }
+    // Its end position, with the upper part above the window's edge.
+    vBurY = -vBurGap;
+    drawGlasses();
+    vBurReady = true;
+}
+
+void Workbench::hBuretteOut() {
+    vBurReady = false;
+    const double height = heightOf(buretteFrame(1));
+    const double start = CoreLib().Clock.Now();
+    for (double t = 0; t < kMoveTime && !session().SessionRestart;
+         t = CoreLib().Clock.Now() - start) {
+        hBuretteDraw(-1, -1, roundToInt((kMoveTime - t) * height / kMoveTime - height - vBurGap));
+        hXEvents();
+    }
+    hBuretteDraw(-1, -1, kOutOfWindow);
+    vBurShown = false;
+}
+
+void Workbench::Form_Resize() {
+    const Size window = inner();
+    frm_Holder.setPlace(std::max(0.0, (window.width - designSize().width) / 2),
+                        std::max(0.0, (window.height - designSize().height) / 2),
+                        designSize().width, designSize().height);
+    drawScale();
+    drawLegendPictures();
+    shown_.stillScene = false;
+    drawGlasses();
+}
+
+void Workbench::drawScale() {
+    constexpr double kInset = 20;    // px from the edge of the picture to the glass
+    constexpr double kGlassTop = 60; // px to the upper end of the scale
+    constexpr int kTicks = 35;       // one for each mL
+    constexpr double kTick = 20;     // px
+    const Rect& outer = pic_BowlOuter.place();
+    if (outer.width > 2 * kInset && outer.height > kGlassTop + kInset) {
+        pic_Bowl.setPlace(kInset, kGlassTop, outer.width - 2 * kInset,
+                          outer.height - kGlassTop - kInset);
+    }
+    const Rect& bowl = pic_Bowl.place();
+    Surface& glass = pic_Glass.surface();
+    glass.Clear();
+    drawGlassOutline(glass);
+    for (int i = 0; i <= kTicks; ++i) {
+        const double y = bowl.bottom() - bowl.height * i / kTicks;
+        const bool lettered = i % 5 == 0;
+        glass.Line({bowl.left, y}, {bowl.left + kTick, y}, kBlack, lettered ? 2 : 1);
+        if (lettered) {
+            const FontSpec font{.size = points(10)};
+            glass.Text({bowl.left + kTick + 2, y - font.size * 0.6}, std::to_string(i) + " mL",
+                       font, kBlack);
+        }
+    }
+    pic_Glass.drawn();
+}
+
+// Walls, foot and rim with the spout, and light on the left wall.
+void Workbench::drawGlassOutline(Surface& glass) const {
+    constexpr Color kOutline{43, 74, 80};
+    constexpr Color kLight{250, 253, 253};
+    constexpr double kWall = 3;
+    const Rect& bowl = pic_Bowl.place();
+    const double rim = bowl.top - 14;
+    const double left = bowl.left - kWall / 2;
+    const double right = bowl.right() + kWall / 2;
+    const double foot = bowl.bottom() + kWall / 2;
+    glass.Line({left, rim}, {left, foot}, kOutline, kWall);
+    glass.Line({right, rim}, {right, foot}, kOutline, kWall);
+    glass.Line({left, foot}, {right, foot}, kOutline, kWall + 1);
+    glass.Line({left, rim}, {left - 9, rim - 7}, kOutline, kWall);
+    glass.Line({right, rim}, {right + 6, rim - 4}, kOutline, kWall);
+    glass.Line({right - 9, rim + 18}, {right - 9, foot - 26}, kLight, 4);
+}
+
+} // namespace quendal
