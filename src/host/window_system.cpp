@@ -122,6 +122,9 @@ class Running {
     bool& flag_;
 };
 
+// A due moment is a sum and may lie a rounding error behind the tick of the clock that it means.
+constexpr double kHalfTick = 5e-7; // s
+
 } // namespace
 
 void WindowSystem::fireDueTimers() {
@@ -131,7 +134,8 @@ void WindowSystem::fireDueTimers() {
         Timer* next = nullptr;
         for (Form* form : loaded_) {
             for (Timer* timer : form->timers_) {
-                const bool due = timer->enabled_ && !timer->running_ && timer->due_ <= now;
+                const bool due =
+                    timer->enabled_ && !timer->running_ && timer->due_ <= now + kHalfTick;
                 if (due && (next == nullptr || timer->due_ < next->due_ ||
                             (timer->due_ == next->due_ && timer->sequence_ < next->sequence_))) {
                     next = timer;

@@ -1,0 +1,41 @@
+#include "headless/play_headless.h"
+
+#include "headless/choose_data_folder.h"
+#include "headless/headless_actor.h"
+#include "headless/headless_host.h"
+#include "script/script_player.h"
+#include "shell/session/session.h"
+
+#include <iostream>
+
+namespace quendal {
+
+int playHeadless(const Script& script, const ScriptOptions& options,
+                 const std::function<void()>& program, std::ostream& out, std::ostream& err) {
+    resetSession();
+    HeadlessHost host(script.settings, chooseDataFolder(script.settings.data));
+    HeadlessActor actor;
+    ScriptPlayer player(script, actor, {.keepGoing = options.keepGoing, .realClock = false}, out,
+                        err);
+    host.watch(&player, &player);
+    try {
+        program();
+        // A program that comes back has ended all the same.
+        host.windows().EndProcess();
+    } catch (const ProcessEnded&) {
+        return player.exitStatus();
+    }
+}
+
+int playHeadlessFile(const ScriptOptions& options, const std::function<void()>& program) {
+    const std::string& file = options.files.front();
+    ScriptFault fault;
+    const auto script = loadScript(file, fault);
+    if (!script) {
+        std::cerr << file << ':' << fault.line << ": " << fault.message << '\n';
+        return static_cast<int>(ScriptStatus::Malformed);
+    }
+    return playHeadless(*script, options, program, std::cout, std::cerr);
+}
+
+} // namespace quendal

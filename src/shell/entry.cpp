@@ -1,0 +1,99 @@
+#include "shell/entry.h"
+
+#include "host/calculator.h"
+#include "host/clock.h"
+#include "host/roots.h"
+#include "host/sound.h"
+#include "host/window_system.h"
+#include "shell/forms/frm_AppResource.h"
+#include "shell/forms/frm_AppSplash.h"
+#include "shell/forms/instances.h"
+#include "shell/frm_DialogStartup.h"
+#include "shell/picture_buffers.h"
+#include "shell/session/session.h"
+#include "workbench/frm_AppMainStrong.h"
+
+#include <cstdlib>
+#include <memory>
+
+namespace quendal {
+
+namespace {
+
+// Long enough for the splash to be seen.
+constexpr double kSplashMs = 500;
+
+template <class T>
+std::unique_ptr<Form> make() {
+    return std::make_unique<T>();
+}
+
+struct WorkbenchRow {
+    int code; // result code of the start dialog
+    std::unique_ptr<Form> (*make)();
+};
+
+constexpr WorkbenchRow kWorkbenches[] = {
+    {1, make<frm_AppMainStrong>},
+};
+
+void tellProduct() {
+    SoundOptions& product = HostApp().SoundOptions;
+    product.Title = "Quendal";
+    product.ProductName = "Quendal";
+    product.Version = "3.0";
+}
+
+void presetSession() {
+    session().SessionConcentration = 1.0;
+    session().SessionRequiredPoints.Clear();
+    session().SessionRequiredPoints.Split("1,5,9,10,11,15", ',');
+    session().SessionRestart = false;
+}
+
+void openWorkbench(int code) {
+    for (const WorkbenchRow& row : kWorkbenches) {
+        if (row.code == code) {
+            // It may have unloaded itself in Load; then the show returns at once.
+            const std::unique_ptr<Form> workbench = row.make();
+            CoreLib().Windows.ShowModal(*workbench);
+        }
+    }
+}
+
+[[noreturn]] void endProgram() {
+    HostApp().Shutdown();
+    CoreLib().Windows.EndProcess();
+    std::abort(); // never reached; the compiler can't see that through a virtual call
+}
+
+void runRounds() {
+    do {
+        CoreLib().Windows.UnloadAll(&appResource());
+        session().SessionBusy = false;
+        session().SessionRestart = false;
+        frm_DialogStartup startup;
+        CoreLib().Windows.ShowModal(startup);
+        openWorkbench(startup.Result);
+        if (startup.Result == frm_DialogStartup::kEndProgram) {
+            endProgram();
+        }
+    } while (session().SessionRestart);
+}
+
+} // namespace
+
+void runSession(const std::string& commandLine) {
+    session().SessionChartFactory = &HostApp().Calculator.ChartFactory();
+    CoreLib().Windows.Show(appSplash());
+    CoreLib().Windows.DoEvents();
+    HostApp().SetCommandLine(commandLine);
+    tellProduct();
+    presetSession();
+    CoreLib().Clock.SleepMs(kSplashMs);
+    fillPictureBuffers(appResource());
+    runRounds();
+    endProgram();
+}
+
+} // namespace quendal

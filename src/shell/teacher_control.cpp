@@ -1,0 +1,70 @@
+#include "shell/teacher_control.h"
+
+#include "host/log.h"
+#include "host/number_service.h"
+#include "shell/session/session.h"
+
+#include <algorithm>
+
+namespace quendal {
+
+namespace {
+
+constexpr ForcedMode kModes[] = {{1, "MODUS_ANI"}, {2, "MODUS_DEMO"}, {3, "MODUS_CALC"}};
+
+// The beginning of `text` on one line, without characters that steer a terminal and without cutting
+// one of several bytes in two.
+std::string shortened(std::string_view text) {
+    constexpr std::size_t kLimit = 40;
+    std::size_t end = std::min(text.size(), kLimit);
+    while (end > 0 && end < text.size() &&
+           (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U) {
+        --end;
+    }
+    std::string shown(text.substr(0, end));
+    std::replace_if(
+        shown.begin(), shown.end(),
+        [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }, '?');
+    return end < text.size() ? shown + "..." : shown;
+}
+
+} // namespace
+
+std::optional<double> countingNumber(std::string_view text) {
+    const double number = leadingNumber(text);
+    return number != 0.0 ? std::optional(number) : std::nullopt;
+}
+
+std::optional<ForcedMode> forcedMode(std::string_view text) {
+    const auto number = countingNumber(text);
+    if (!number) {
+        return std::nullopt;
+    }
+    for (const ForcedMode& mode : kModes) {
+        if (*number == mode.tab) {
+            return mode;
+        }
+    }
+    return ForcedMode{};
+}
+
+std::optional<int> concentrationIndex(std::string_view text, int count) {
+    const int place = roundToInt(leadingNumber(text));
+    return place >= 1 && place <= count ? std::optional(place - 1) : std::nullopt;
+}
+
+void logTeacherKey(std::string_view key, std::string_view text, std::string_view consequence) {
+    logLine("Lehrerschlüssel " + std::string(key) + " = \"" + shortened(text) +
+            "\": " + std::string(consequence));
+}
+
+bool teacherTruth(std::string_view key, std::string_view text) {
+    bool understood = false;
+    const bool truth = hBoolText(text, &understood);
+    if (!understood) {
+        logTeacherKey(key, text, "weder wahr noch falsch, gilt als falsch");
+    }
+    return truth;
+}
+
+} // namespace quendal

@@ -1,0 +1,15 @@
+# Tests of the services of the desktop host; CMakeLists.txt beside it includes this.
+quendal_tests(desktop_services_test
+  SOURCES
+    services_main.cpp
+    services_box_test.cpp
+    services_calculator_test.cpp
+    services_chart_test.cpp
+    services_command_line_test.cpp
+    services_control_test.cpp
+    services_data_folder_test.cpp
+    services_report_test.cpp
+    services_rich_text_test.cpp
+    services_rtf_test.cpp
+    services_sound_test.cpp
+  LINKS quendal_desktop quendal_test_support)

@@ -1,0 +1,58 @@
+// A surface that keeps what is drawn on it, shape by shape.
+#pragma once
+
+#include "host/surface.h"
+
+#include <string>
+#include <vector>
+
+namespace quendal::test {
+
+class RecordingSurface final : public Surface {
+  public:
+    struct CircleMark {
+        Point centre;
+        double radius = 0;
+        Color fill;
+        Color outline;
+        friend bool operator==(const CircleMark&, const CircleMark&) = default;
+    };
+    struct BoxMark {
+        Point from;
+        Point to;
+        Color color;
+        friend bool operator==(const BoxMark&, const BoxMark&) = default;
+    };
+
+    RecordingSurface(double width, double height) : width_(width), height_(height) {}
+
+    double ScaleWidth() const override { return width_; }
+    double ScaleHeight() const override { return height_; }
+    void Clear() override {
+        circles.clear();
+        boxes.clear();
+        order.clear();
+    }
+    void Line(Point, Point, Color, double) override { order += 'l'; }
+    void Box(Point from, Point to, Color color) override {
+        boxes.push_back({from, to, color});
+        order += 'b';
+    }
+    void Circle(Point centre, double radius, Color outline) override {
+        circles.push_back({centre, radius, fillColor(), outline});
+        order += 'c';
+    }
+    void Polygon(std::span<const Point>, Color) override { order += 'p'; }
+    void Text(Point, std::string_view, const FontSpec&, Color) override { order += 't'; }
+    void Copy(const PicturePtr&, Point) override { order += 'i'; }
+
+    std::vector<CircleMark> circles;
+    std::vector<BoxMark> boxes;
+    std::string order; // one letter for each operation: line, box, circle, polygon, text, image
+
+  private:
+    double width_;
+    double height_;
+};
+
+} // namespace quendal::test
