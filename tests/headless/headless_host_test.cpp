@@ -1,0 +1,156 @@
+#include "headless/choose_data_folder.h"
+#include "headless/headless_host.h"
+#include "headless/small_forms.h"
+#include "host/clock.h"
+#include "host/graphics.h"
+#include "host/log.h"
+#include "host/system_info.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+namespace quendal::test {
+namespace {
+
+struct Playground {
+    explicit Playground(const ScriptSettings& settings = {}) : host(settings, "data/") {}
+    HeadlessHost host;
+};
+
+TEST(HeadlessHost, FormsFillTheScreenWithOneScale) {
+    Playground ground;
+    SmallForm form;
+    CoreLib().Windows.Show(form); // 1000 x 500 on 1366 x 768
+    EXPECT_DOUBLE_EQ(form.inner().width, 1000);
+    EXPECT_DOUBLE_EQ(form.inner().height, 768 / 1.366);
+    EXPECT_DOUBLE_EQ(CoreLib().Windows.screen().width, 1000);
+    CoreLib().Windows.Unload(form);
+}
+
+TEST(HeadlessHost, OtherFormsHaveTheirDesignSizeOrTheOneAskedFor) {
+    Playground ground;
+    SmallDialog dialog;
+    CoreLib().Windows.Show(dialog);
+    EXPECT_EQ(dialog.inner(), (Size{300, 200}));
+    dialog.moveTo({10, 10, 400, 250});
+    EXPECT_EQ(dialog.inner(), (Size{400, 250}));
+    CoreLib().Windows.Unload(dialog);
+}
+
+TEST(HeadlessHost, FormsThatScaleThemselvesAreShownInPixels) {
+    ScriptSettings settings;
+    settings.screen = {1920, 1080};
+    Playground ground(settings);
+    SmallForm form;
+    form.setScalesItself(true);
+    CoreLib().Windows.Show(form);
+    EXPECT_EQ(form.inner(), (Size{1920, 1080}));
+    CoreLib().Windows.Unload(form);
+}
+
+TEST(HeadlessHost, CountsWhatIsDrawn) {
+    Playground ground;
+    SmallForm form;
+    CoreLib().Windows.Show(form);
+    Surface& surface = form.pic_Field.surface();
+    EXPECT_EQ(surface.ScaleWidth(), 100);
+    surface.Clear();
+    surface.Circle({5, 5}, 3, kBlack);
+    surface.Copy(nullptr, {0, 0});
+    EXPECT_EQ(ground.host.windows().drawn().circles, 1);
+    EXPECT_EQ(ground.host.windows().drawn().clears, 1);
+    EXPECT_EQ(ground.host.windows().drawn().copies, 0);
+    CoreLib().Windows.Unload(form);
+}
+
+TEST(HeadlessHost, SurfacesGoWithTheHost) {
+    auto ground = std::make_unique<Playground>();
+    SmallForm form;
+    CoreLib().Windows.Show(form);
+    CoreLib().Windows.Unload(form);
+    ground.reset();
+    form.pic_Field.surface().Clear(); // the control's own surface again
+    EXPECT_EQ(form.pic_Field.surface().ScaleHeight(), 50);
+}
+
+class PictureFile {
+  public:
+    explicit PictureFile(const std::string& bytes)
+        : name_((std::filesystem::temp_directory_path() / "quendal_picture_test.gif").string()) {
+        std::ofstream(name_, std::ios::binary) << bytes;
+    }
+    ~PictureFile() { std::remove(name_.c_str()); }
+    const std::string& name() const { return name_; }
+
+  private:
+    std::string name_;
+};
+
+TEST(HeadlessHost, KnowsPicturesByTheirSize) {
+    Playground ground;
+    const PictureFile file(std::string("GIF89a\x2c\x01\x20\x00\x00\x00\x00", 13));
+    const PicturePtr picture = CoreLib().Graphics.LoadPicture(file.name());
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->width(), 300);
+    EXPECT_EQ(picture->height(), 32);
+}
+
+TEST(HeadlessHost, LogsPicturesThatAreMissingOrBroken) {
+    Playground ground;
+    int lines = 0;
+    const LogSink before = exchangeLogSink([&](std::string_view) { ++lines; });
+    for (const std::string bytes : {"", "GIF89a", "GIF89a\x01\x01\x01\x01 no end of it?"}) {
+        const PictureFile file(bytes);
+        const bool whole = bytes.size() > 13;
+        EXPECT_EQ(CoreLib().Graphics.LoadPicture(file.name()) != nullptr, whole);
+    }
+    EXPECT_EQ(CoreLib().Graphics.LoadPicture("data/no_such_picture.gif"), nullptr);
+    EXPECT_EQ(lines, 3);
+    exchangeLogSink(before);
+}
+
+TEST(HeadlessHost, NobodyAnswersWithoutAnObserver) {
+    Playground ground;
+    EXPECT_EQ(CoreLib().MessageBox.YesNo("?", ""), BoxAnswer::No);
+    EXPECT_EQ(CoreLib().MessageBox.Input("?", "", "x"), "");
+    EXPECT_FALSE(HostApp().Calculator.Show(0, 0, 0, 0, {}));
+}
+
+TEST(HeadlessHost, AWaitWithoutEndIsRefused) {
+    Playground ground;
+    EXPECT_THROW(CoreLib().Windows.waitWhile([] { return true; }), std::logic_error);
+}
+
+TEST(HeadlessHost, EndsByAnException) {
+    Playground ground;
+    EXPECT_THROW(CoreLib().Windows.EndProcess(), ProcessEnded);
+}
+
+TEST(HeadlessHost, DataFolderEndsWithASeparator) {
+    const std::string folder = chooseDataFolder(QUENDAL_SOURCE_DIR "/src");
+    EXPECT_TRUE(folder.ends_with("/src/"));
+    EXPECT_TRUE(chooseDataFolder(QUENDAL_SOURCE_DIR "/src/").ends_with("/src/"));
+    int lines = 0;
+    const LogSink before = exchangeLogSink([&](std::string_view) { ++lines; });
+    EXPECT_TRUE(chooseDataFolder("no/such/folder").ends_with("/no/such/folder/"));
+    EXPECT_EQ(lines, 1);
+    exchangeLogSink(before);
+}
+
+TEST(HeadlessHost, SettingsReachTheServices) {
+    ScriptSettings settings;
+    settings.user = "anna";
+    settings.sound = 2;
+    settings.sign = DecimalSign::Point;
+    Playground ground(settings);
+    EXPECT_EQ(CoreLib().SystemInfo.CurrentUser().Name, "anna");
+    EXPECT_EQ(CoreLib().NumberService.text(0.5), "0.5");
+    EXPECT_TRUE(HostApp().SoundOptions.silent());
+    EXPECT_EQ(CoreLib().Graphics.SystemColor(15), (Color{240, 240, 240}));
+}
+
+} // namespace
+} // namespace quendal::test
