@@ -2,8 +2,10 @@
 #include "script/script_words.h"
 #include "script/step_reader.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 
 namespace quendal {
 
@@ -79,6 +81,15 @@ class ScriptReader {
     bool started_ = false;
 };
 
+// A relative folder that isn't there from the working folder may stand beside the script.
+std::string foundBeside(const std::string& file, const std::string& folder) {
+    namespace fs = std::filesystem;
+    std::error_code fault;
+    const fs::path beside = fs::path(file).parent_path() / folder;
+    const bool wanted = !folder.empty() && !fs::is_directory(folder, fault);
+    return wanted && fs::is_directory(beside, fault) ? beside.string() : folder;
+}
+
 } // namespace
 
 std::optional<Script> parseScript(std::string_view text, ScriptFault& fault) {
@@ -116,6 +127,7 @@ std::optional<Script> loadScript(const std::string& file, ScriptFault& fault) {
     auto script = parseScript(text, fault);
     if (script) {
         script->file = file;
+        script->settings.data = foundBeside(file, script->settings.data);
     }
     return script;
 }

@@ -97,9 +97,11 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     ControlArray<ctl_Image> pic_Step{*this, "pic_Step", 0, 2};
     ControlArray<ctl_Label> lab_Step{*this, "lab_Step", 0, 2};
     ctl_Label lab_Step1{*this, "lab_Step1"};
-    ctl_Button ctl_Button1{*this, "ctl_Button1"}; // as a click on the pipette
-    ctl_Button ctl_Button3{*this, "ctl_Button3"}; // as a click on the burette
-    ctl_Button ctl_Button2{*this, "ctl_Button2"}; // as but_Calc
+    ctl_Image pic_PipetteMark{*this, "pic_PipetteMark"}; // stands in the gap of the first line
+    ctl_Image pic_DropMark{*this, "pic_DropMark"};       // and in that of the second
+    ctl_Button ctl_Button1{*this, "ctl_Button1"};        // as a click on the pipette
+    ctl_Button ctl_Button3{*this, "ctl_Button3"};        // as a click on the burette
+    ctl_Button ctl_Button2{*this, "ctl_Button2"};        // as but_Calc
     ControlArray<ctl_Button> but_Add{*this, "but_Add", 0, 1};
 
     ctl_Frame frm_Reading{*this, "frm_Reading"};
@@ -155,6 +157,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void design();
     void designApparatus();
     void designTaskSheet();
+    void mark(ctl_Image& image, const Rect& place, const char* icon);
     void designReadings();
     void designScore();
     void designDirectInput();
@@ -215,6 +218,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void hBuretteIn();
     void hBuretteOut();
     void drawScale();
+    void letterScale(Surface& glass, Point place, int millilitres) const;
     void drawGlassOutline(Surface& glass) const;
 
     const WorkbenchVariant& variant_;

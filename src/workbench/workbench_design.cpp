@@ -9,9 +9,9 @@ namespace {
 
 constexpr double kMargin = 8;
 constexpr double kMiddle = 322; // left edge of the task sheet
-constexpr double kMiddleWidth = 462;
-constexpr double kRight = 792; // left edge of the readings
-constexpr double kRightWidth = 200;
+constexpr double kMiddleWidth = 444;
+constexpr double kRight = 774; // left edge of the readings
+constexpr double kRightWidth = 218;
 constexpr Rect kApparatus{4, 0, 312, 690};
 constexpr double kBeakerTop = 284;
 constexpr Color kGround{244, 247, 247};
@@ -82,35 +82,50 @@ void Workbench::designApparatus() {
 }
 
 void Workbench::designTaskSheet() {
+    // The lines of the sheet leave room for the buttons that stand in them: measured in blanks of
+    // this font.
+    const FontSpec sheetFont{.size = 15};
     constexpr double kTextLeft = 36;
     constexpr double kTextWidth = kMiddleWidth - kTextLeft - 12;
-    frame(ctl_Frame2, frm_Holder, {kMiddle, kMargin, kMiddleWidth, 416}, "Aufgabenzettel",
+    constexpr double kGapLeft = kTextLeft + 65; // behind "Klick auf"
+    constexpr double kGapWidth = 122;
+    constexpr double kTops[] = {50, 230, 300};
+    constexpr double kReagentTop = 158;
+    frame(ctl_Frame2, frm_Holder, {kMiddle, kMargin, kMiddleWidth, 376}, "Aufgabenzettel",
           "Ico\\20\\Computer\\Signs\\Checked.ico");
-    constexpr double kTops[] = {48, 222, 324};
     pic_Step.each([&](int index, ctl_Image& image) {
         image.setContainer(ctl_Frame2);
         image.setPlace(12, kTops[index], 18, 18);
     });
-    label(lab_Step(0), ctl_Frame2, {kTextLeft, kTops[0], kTextWidth, 56}, "");
-    button(ctl_Button1, ctl_Frame2, {kTextLeft, 104, 180, 30}, "'Klick auf die Pipette'");
-    label(lab_Step1, ctl_Frame2, {kTextLeft, 152, kTextWidth, 60}, "");
-    button(ctl_Button3, ctl_Frame2, {kTextLeft + 62, 146, 112, 28}, "Bürette ");
-    label(lab_Step(1), ctl_Frame2, {kTextLeft, kTops[1], kTextWidth, 60}, "");
-    button(ctl_Button2, ctl_Frame2, {kTextLeft + 62, kTops[1] - 6, 112, 28}, "Berechnen!");
-    label(lab_Step(2), ctl_Frame2, {kTextLeft, kTops[2], kTextWidth, 80}, "");
+    label(lab_Step(0), ctl_Frame2, {kTextLeft, kTops[0], kTextWidth, 56}, "", sheetFont);
+    button(ctl_Button1, ctl_Frame2, {kTextLeft, 100, 190, 32}, "'Klick auf die Pipette'");
+    label(lab_Step1, ctl_Frame2, {kTextLeft, kReagentTop, kTextWidth, 56}, "", sheetFont);
+    button(ctl_Button3, ctl_Frame2, {kGapLeft, kReagentTop - 4, kGapWidth, 23}, "Bürette ");
+    label(lab_Step(1), ctl_Frame2, {kTextLeft, kTops[1], kTextWidth, 56}, "", sheetFont);
+    button(ctl_Button2, ctl_Frame2, {kGapLeft, kTops[1] - 4, kGapWidth, 23}, "Berechnen!");
+    label(lab_Step(2), ctl_Frame2, {kTextLeft, kTops[2], kTextWidth, 66}, "", sheetFont);
     ctl_Button2.setVisible(false);
     ctl_Button3.setVisible(false);
+    mark(pic_PipetteMark, {kTextLeft + 104, kTops[0] - 4, 26, 26},
+         "Ico\\20\\Science\\Chemistry\\Pipette.ico");
+    mark(pic_DropMark, {kTextLeft + 342, kReagentTop - 3, 24, 24},
+         "Ico\\20\\Science\\Chemistry\\Drop.ico");
 
-    frame(frm_Reading, frm_Holder, {kMiddle, 434, kMiddleWidth, 96}, "Letzter Punkt");
+    frame(frm_Reading, frm_Holder, {kMiddle, 392, kMiddleWidth, 96}, "Letzter Punkt");
     term(lab_pHName, frm_Reading, {16, 46, 140, 34}, std::string(variant().readingName), kLarge);
-    label(lab_pH, frm_Reading, {160, 42, 280, 40}, "–", kReadingFont);
+    label(lab_pH, frm_Reading, {160, 42, 270, 40}, "–", kReadingFont);
     lab_pH.setAccessibleName("Zuletzt berechneter Wert");
 
-    button(but_Calc, frm_Holder, {kMiddle, 638, 146, 42}, "Berechnen!");
+    button(but_Calc, frm_Holder, {kMiddle, 640, 122, 42}, "Berechnen!");
     but_Calc.setVisible(false);
-    button(but_Help, frm_Holder, {kMiddle + 154, 638, 154, 42}, "Ausführliche Hilfe",
+    button(but_Help, frm_Holder, {kMiddle + 130, 640, 158, 42}, "Ausführliche Hilfe",
            "Ico\\16\\Computer\\Signs\\Help.ico");
-    button(but_phCompare, frm_Holder, {kMiddle + 316, 638, 146, 42}, "pH-Kurve anzeigen");
+    button(but_phCompare, frm_Holder, {kMiddle + 296, 640, 148, 42}, "pH-Kurve anzeigen");
+}
+
+void Workbench::mark(ctl_Image& image, const Rect& place, const char* icon) {
+    arrange(image, ctl_Frame2, place);
+    image.setPictureIcon(icon);
 }
 
 void Workbench::designReadings() {
@@ -119,10 +134,10 @@ void Workbench::designReadings() {
         "VµV(S)     = ", "VµZ(OH-) =", "cµV(S) =", "cµZ(OH-) = 1 mol/L"};
     lab_VolLabel.each([&](int index, ctl_TermLabel& name) {
         const bool alone = !lab_Vol.has(index);
-        term(name, frm_Volumes, {12, 42.0 + 29 * index, alone ? 176.0 : 84.0, 26}, kNames[index]);
+        term(name, frm_Volumes, {12, 42.0 + 29 * index, alone ? 188.0 : 84.0, 26}, kNames[index]);
     });
     lab_Vol.each([&](int index, ctl_TermLabel& value) {
-        term(value, frm_Volumes, {96, 42.0 + 29 * index, 96, 26}, "0 mL",
+        term(value, frm_Volumes, {98, 42.0 + 29 * index, 106, 26}, "0 mL",
              {.size = 15, .bold = true});
     });
 
@@ -131,10 +146,10 @@ void Workbench::designReadings() {
     pic_Bilanz.each([&](int index, PictureBox& picture) {
         const double top = 44.0 + 42 * index;
         picture.setContainer(frm_Bilanz);
-        picture.setPlace(8, top, 40, 38);
+        picture.setPlace(6, top, 44, 38);
         picture.setBackColor(kWhite);
-        term(lab_Bilanz(index), frm_Bilanz, {50, top + 4, 64, 32}, "", kLarge);
-        term(lab_BilanzCount(index), frm_Bilanz, {112, top + 4, 84, 32}, "0 mol", kLarge);
+        term(lab_Bilanz(index), frm_Bilanz, {52, top + 4, 62, 32}, "", kLarge);
+        term(lab_BilanzCount(index), frm_Bilanz, {112, top + 4, 98, 32}, "0 mol", kLarge);
         lab_BilanzCount(index).setTextAlign(TextAlign::Right);
     });
 }
@@ -153,7 +168,7 @@ void Workbench::designScore() {
     double top = 44;
     for (const ScoreLine& line : lines) {
         label(line.name, frm_Score, {38, top, 90, 26}, line.text);
-        label(line.value, frm_Score, {132, top, 52, 26}, "0", {.size = 15, .bold = true});
+        label(line.value, frm_Score, {148, top, 54, 26}, "0", {.size = 15, .bold = true});
         line.value.setTextAlign(TextAlign::Right);
         top += 30;
     }
@@ -166,7 +181,7 @@ void Workbench::designScore() {
 }
 
 void Workbench::designDirectInput() {
-    frame(frm_CalcDirect, frm_Holder, {kMiddle, 434, kMiddleWidth, 190},
+    frame(frm_CalcDirect, frm_Holder, {kMiddle, 392, kMiddleWidth, 176},
           std::string(variant().calculationTitle), "Ico\\16\\Business\\Office\\Calculator.ico");
     frm_CalcDirect.setVisible(false);
     term(lab_CalcX, frm_CalcDirect, {24, 60, 70, 32}, "pH =", kLarge);
@@ -175,8 +190,8 @@ void Workbench::designDirectInput() {
     txt_Ph.setPlace(102, 58, 130, 36);
     txt_Ph.setFont(kLarge);
     txt_Ph.setAccessibleName(std::string(variant().calculationTitle));
-    button(but_CalcDone, frm_CalcDirect, {290, 58, 140, 36}, "&Fertig");
-    button(but_HelpCalc, frm_CalcDirect, {290, 112, 140, 36}, "Wie geht das?",
+    button(but_CalcDone, frm_CalcDirect, {290, 58, 144, 36}, "&Fertig");
+    button(but_HelpCalc, frm_CalcDirect, {290, 112, 144, 36}, "Wie geht das?",
            "Ico\\16\\Computer\\Signs\\Help.ico");
 }
 

@@ -157,30 +157,48 @@ void Workbench::drawScale() {
         const bool lettered = i % 5 == 0;
         glass.Line({bowl.left, y}, {bowl.left + kTick, y}, kBlack, lettered ? 2 : 1);
         if (lettered) {
-            const FontSpec font{.size = points(10)};
-            glass.Text({bowl.left + kTick + 2, y - font.size * 0.6}, std::to_string(i) + " mL",
-                       font, kBlack);
+            letterScale(glass, {bowl.left + kTick + 3, y - points(10) * 0.62}, i);
         }
     }
     pic_Glass.drawn();
 }
 
-// Walls, foot and rim with the spout, and light on the left wall.
+// The number of a tick, with light around it: particles swarm behind it.
+void Workbench::letterScale(Surface& glass, Point place, int millilitres) const {
+    constexpr Color kLight{250, 253, 253};
+    constexpr double kAround = 1.5; // px
+    const FontSpec font{.size = points(10)};
+    const std::string text = std::to_string(millilitres) + " mL";
+    for (const Point& shift : {Point{-1, 0}, Point{1, 0}, Point{0, -1}, Point{0, 1}, Point{-1, -1},
+                               Point{1, 1}, Point{-1, 1}, Point{1, -1}}) {
+        glass.Text({place.x + kAround * shift.x, place.y + kAround * shift.y}, text, font, kLight);
+    }
+    glass.Text(place, text, font, kBlack);
+}
+
+// Walls, foot and rim with the spout, and light on the walls.
 void Workbench::drawGlassOutline(Surface& glass) const {
     constexpr Color kOutline{43, 74, 80};
     constexpr Color kLight{250, 253, 253};
     constexpr double kWall = 3;
     const Rect& bowl = pic_Bowl.place();
-    const double rim = bowl.top - 14;
+    const double rim = bowl.top - 16;
     const double left = bowl.left - kWall / 2;
     const double right = bowl.right() + kWall / 2;
     const double foot = bowl.bottom() + kWall / 2;
-    glass.Line({left, rim}, {left, foot}, kOutline, kWall);
-    glass.Line({right, rim}, {right, foot}, kOutline, kWall);
-    glass.Line({left, foot}, {right, foot}, kOutline, kWall + 1);
-    glass.Line({left, rim}, {left - 9, rim - 7}, kOutline, kWall);
-    glass.Line({right, rim}, {right + 6, rim - 4}, kOutline, kWall);
-    glass.Line({right - 9, rim + 18}, {right - 9, foot - 26}, kLight, 4);
+    // From the spout at the left over the foot to the rolled rim at the right.
+    const Point outline[] = {{left - 15, rim - 6}, {left - 8, rim - 3},  {left - 3, rim + 3},
+                             {left, rim + 11},     {left, foot - 7},     {left + 2, foot - 2},
+                             {left + 7, foot},     {right - 7, foot},    {right - 2, foot - 2},
+                             {right, foot - 7},    {right, rim + 8},     {right + 2, rim + 3},
+                             {right + 7, rim},     {right + 10, rim - 3}};
+    for (std::size_t i = 1; i < std::size(outline); ++i) {
+        glass.Line(outline[i - 1], outline[i], kOutline, kWall);
+    }
+    // The rear of the rim, seen through the glass.
+    glass.Line({left - 8, rim - 3}, {right + 7, rim}, kOutline, 1);
+    glass.Line({right - 10, rim + 26}, {right - 10, foot - 30}, kLight, 4);
+    glass.Line({right - 17, rim + 26}, {right - 17, rim + 90}, kLight, 2);
 }
 
 } // namespace quendal

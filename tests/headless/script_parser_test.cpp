@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <random>
 
 namespace quendal {
@@ -216,6 +218,19 @@ TEST(ScriptParser, TellsOfAMissingFile) {
     ScriptFault fault;
     EXPECT_FALSE(loadScript("no/such/file.qs", fault));
     EXPECT_EQ(fault.line, 0);
+}
+
+TEST(ScriptParser, FindsADataFolderBesideTheScript) {
+    namespace fs = std::filesystem;
+    const fs::path home = fs::temp_directory_path() / "quendal_script_parser_test";
+    fs::create_directories(home / "lab_data");
+    const std::string file = (home / "a.qs").string();
+    std::ofstream(file) << "data lab_data\nstart\n";
+    ScriptFault fault;
+    EXPECT_EQ(loadScript(file, fault)->settings.data, (home / "lab_data").string());
+    std::ofstream(file) << "data nowhere\nstart\n";
+    EXPECT_EQ(loadScript(file, fault)->settings.data, "nowhere");
+    fs::remove_all(home);
 }
 
 } // namespace

@@ -7,7 +7,7 @@ namespace quendal::panel {
 
 namespace {
 
-constexpr double kWidth = 462;
+constexpr double kWidth = 444;
 constexpr double kHeight = 674;
 constexpr double kFullWidth = kWidth - 2 * kFormula.left;
 const FontSpec kTermFont{.size = 13};
@@ -22,10 +22,10 @@ void designFrame(GuidedCalculation& guidance, Control& holder, const char* title
     frame.setText(title);
     frame.setPictureIcon(kCalculatorIcon);
     ctl_Button& oneClick = guidance.but_CalcStep(GuidedCalculation::kOneClick);
-    arrange(oneClick, frame, {322, 642, 128, 28}, kTermFont);
+    arrange(oneClick, frame, {308, 642, 128, 28}, kTermFont);
     oneClick.setText("'one' - Klick");
     ctl_Pannel& warning = guidance.but_AchtungRW;
-    arrange(warning, frame, {302, 36, 150, 44}, {.size = 13, .bold = true});
+    arrange(warning, frame, {286, 36, 150, 44}, {.size = 13, .bold = true});
     warning.setText("Achtung!<br>Neuer Rechenweg!");
     warning.setTextAlign(TextAlign::Centre);
     warning.setTextColor({140, 50, 20});

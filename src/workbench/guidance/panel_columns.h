@@ -17,12 +17,12 @@ struct Column {
     TextAlign align = TextAlign::Left;
 };
 
-inline constexpr Column kFormula{12, 164};                // the rule
-inline constexpr Column kName{176, 68, TextAlign::Right}; // "c =" beside the input
-inline constexpr Column kInput{248, 66};
-inline constexpr Column kUnit{318, 44};
-inline constexpr Column kCalculator{358, 26};
-inline constexpr Column kButton{388, 66};
+inline constexpr Column kFormula{12, 150};                // the rule
+inline constexpr Column kName{164, 66, TextAlign::Right}; // "c =" beside the input
+inline constexpr Column kInput{234, 64};
+inline constexpr Column kUnit{302, 42};
+inline constexpr Column kCalculator{344, 25};
+inline constexpr Column kButton{372, 64};
 inline constexpr double kRowHeight = 26;
 
 // The frame itself, its button for one click and the warning.
