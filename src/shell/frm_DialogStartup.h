@@ -36,7 +36,8 @@ class frm_DialogStartup final : public Form {
     ctl_Label Label2{*this, "Label2"};
     TabControl SSTab1{*this, "SSTab1"};
 
-    ctl_Label Label5{*this, "Label5"}; // welcome
+    ctl_Label Label5{*this, "Label5"};      // welcome
+    ctl_DrAtom dra_Atom{*this, "dra_Atom"}; // keeps the movie's place
     ctl_Frame ctl_Frame1{*this, "ctl_Frame1"};
     ControlArray<PictureBox> pic_Movie{*this, "pic_Movie", 0, 0};
 

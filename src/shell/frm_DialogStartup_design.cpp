@@ -14,7 +14,7 @@ constexpr double kWidth = 960;
 constexpr double kMargin = kDialogMargin;
 constexpr double kHeaderHeight = 96;
 constexpr Rect kWelcomePanel{kMargin, 104, kWidth - 2 * kMargin, 72};
-constexpr Rect kTabs{kMargin, 184, kWidth - 2 * kMargin, 344};
+constexpr Rect kTabs{kMargin, 184, kWidth - 2 * kMargin, 336};
 constexpr double kInset = 24; // from the edge of the tab control to what stands on it
 constexpr double kColumn = 432;
 constexpr double kGap = 16;
@@ -44,7 +44,7 @@ void frm_DialogStartup::design() {
     designSettings();
     ctl_Button5.setText("&Beenden");
     ctl_Button5.setPictureIcon(kQuitIcon);
-    arrange(ctl_Button5, {kWidth - kMargin - 144, 536, 144, 36});
+    arrange(ctl_Button5, {kWidth - kMargin - 144, 530, 144, 36});
     arrange(ctl_StatusBar1, {0, 576, kWidth, 24});
 }
 
@@ -70,6 +70,10 @@ void frm_DialogStartup::designIntroduction() {
     constexpr double kHeight = 272;
     Label5.setContainer(SSTab1, pageOf(StartTab::Introduction));
     arrange(Label5, {kInset, 56, 496, kHeight});
+    dra_Atom.setContainer(SSTab1, pageOf(StartTab::Introduction));
+    arrange(dra_Atom, {600, 80, 240, 240});
+    dra_Atom.setMood(2);
+    dra_Atom.setAccessibleName("Doktor Atom, das Maskottchen");
     ctl_Frame1.setContainer(SSTab1, pageOf(StartTab::Introduction));
     arrange(ctl_Frame1, {544, 56, 360, kHeight});
     ctl_Frame1.setVisible(false); // it waits for the movie that plays in it
@@ -110,7 +114,7 @@ void frm_DialogStartup::designSettings() {
     lst_Mol.setAccessibleName("Vorgabe-Konzentration in mol/L");
     arrange(lst_Mol, {kInset, kTop + kLine, 96, kLine});
     Label4.setText("mol/L");
-    arrange(Label4, {kInset + 104, kTop + kLine + 6, 80, 24});
+    arrange(Label4, {kInset + 104, kTop + kLine, 80, kLine});
 
     struct Option {
         CheckBox& box;

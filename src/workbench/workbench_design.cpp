@@ -89,7 +89,7 @@ void Workbench::designTaskSheet() {
     constexpr double kTextWidth = kMiddleWidth - kTextLeft - 12;
     constexpr double kGapLeft = kTextLeft + 65; // behind "Klick auf"
     constexpr double kGapWidth = 122;
-    constexpr double kTops[] = {50, 230, 300};
+    constexpr double kTops[] = {50, 226, 288};
     constexpr double kReagentTop = 158;
     frame(ctl_Frame2, frm_Holder, {kMiddle, kMargin, kMiddleWidth, 376}, "Aufgabenzettel",
           "Ico\\20\\Computer\\Signs\\Checked.ico");
@@ -103,7 +103,7 @@ void Workbench::designTaskSheet() {
     button(ctl_Button3, ctl_Frame2, {kGapLeft, kReagentTop - 4, kGapWidth, 23}, "Bürette ");
     label(lab_Step(1), ctl_Frame2, {kTextLeft, kTops[1], kTextWidth, 56}, "", sheetFont);
     button(ctl_Button2, ctl_Frame2, {kGapLeft, kTops[1] - 4, kGapWidth, 23}, "Berechnen!");
-    label(lab_Step(2), ctl_Frame2, {kTextLeft, kTops[2], kTextWidth, 66}, "", sheetFont);
+    label(lab_Step(2), ctl_Frame2, {kTextLeft, kTops[2], kTextWidth, 78}, "", sheetFont);
     ctl_Button2.setVisible(false);
     ctl_Button3.setVisible(false);
     mark(pic_PipetteMark, {kTextLeft + 104, kTops[0] - 4, 26, 26},

@@ -151,15 +151,17 @@ void Workbench::drawScale() {
     const Rect& bowl = pic_Bowl.place();
     Surface& glass = pic_Glass.surface();
     glass.Clear();
-    drawGlassOutline(glass);
     for (int i = 0; i <= kTicks; ++i) {
         const double y = bowl.bottom() - bowl.height * i / kTicks;
         const bool lettered = i % 5 == 0;
         glass.Line({bowl.left, y}, {bowl.left + kTick, y}, kBlack, lettered ? 2 : 1);
         if (lettered) {
-            letterScale(glass, {bowl.left + kTick + 3, y - points(10) * 0.62}, i);
+            // The lowest number stands on the foot of the glass, the others beside their tick.
+            const double rise = points(10) * (i == 0 ? 1.2 : 0.62);
+            letterScale(glass, {bowl.left + kTick + 3, y - rise}, i);
         }
     }
+    drawGlassOutline(glass);
     pic_Glass.drawn();
 }
 

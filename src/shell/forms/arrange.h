@@ -14,7 +14,7 @@ inline const FontSpec kReadingFont{.size = 28, .bold = true};
 
 inline constexpr double kDialogMargin = 16;
 inline constexpr double kDialogTitleHeight = 72;
-inline constexpr double kDialogBarHeight = 56;
+inline constexpr double kDialogBarRoom = 56; // for the bar and the air around it
 
 inline constexpr const char* kCommandOk = "DIALOG.OK();";
 inline constexpr const char* kHelpIcon = "Ico\\32\\Computer\\Signs\\Help.ico";
@@ -38,7 +38,9 @@ struct TitleTexts {
 
 // Across the top of a form that is `width` wide.
 void arrangeTitle(ctl_Title& heading, double width, TitleTexts texts);
-// One button, across the form with its lower edge at `bottom`.
+// Where the bar stands on a form that is `width` wide and ends at `bottom`.
+Rect barPlace(double width, double bottom);
+// One button.
 void arrangeBar(ctl_CmdBar& bar, double width, double bottom, std::string buttonText);
 
 } // namespace quendal

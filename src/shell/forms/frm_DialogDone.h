@@ -47,6 +47,7 @@ class frm_DialogDone final : public Form {
 
   private:
     void design();
+    void designFigures();
     void fillLabels();
     void present();
     void tmr_Move_Timer();

@@ -8,57 +8,50 @@ namespace {
 constexpr const char* kCaptions[] = {"Aufgabe:",         "Punkte berechnet:", "Hilfe benötigt:",
                                      "Lösung benötigt:", "Gemachte Fehler:",  "Zeit:"};
 
-// Columns: the figures, the picture, the mascot.
 constexpr double kTop = kDialogTitleHeight + kDialogMargin;
-constexpr double kSheetWidth = 284;
+// The columns on the sheet: the figures, the picture, the mascot.
+constexpr double kInset = 16;
+constexpr double kFigures = 252;
+constexpr double kPictureLeft = kDialogMargin + kInset + kFigures + 24;
 constexpr Size kPicture{260, 200};
-constexpr double kMascotSize = 104;
-constexpr double kMascotWidth = 120;
+constexpr Size kMascot{112, 96};
 constexpr double kFloor = 4000 / kTwipsPerUnit; // where the mascot stands and jumps from
 
 } // namespace
 
 void frm_DialogDone::design() {
-    constexpr double kRow = 36;
-    constexpr double kInset = 16;
-    constexpr double kCaption = 124;
-    constexpr double kShortCaption = 48;
     const Size size = designSize();
-    const double bottom = size.height - kDialogBarHeight;
+    const double bottom = size.height - kDialogBarRoom - kDialogMargin;
     setCaption("Dein Ergebnis");
     arrangeTitle(ctl_Title1, size.width,
                  {.title = "Dein Ergebnis",
                   .text = "Hier siehst Du, wie Du abgeschnitten hast",
                   .icon = ""});
-    arrange(ctl_Pannel1, {kDialogMargin, kTop, kSheetWidth, bottom - kTop - kDialogMargin});
+    arrange(ctl_Pannel1, {kDialogMargin, kTop, size.width - 2 * kDialogMargin, bottom - kTop});
+    designFigures();
+    arrange(lab_Mark, {kPictureLeft, kTop + kInset, kPicture.width + kMascot.width, 40},
+            kReadingFont);
+    pic_Back.setPlace(kPictureLeft, bottom - 8 - kPicture.height, kPicture.width, kPicture.height);
+    dra_Atom.setPlace(size.width - kDialogMargin - kInset - kMascot.width, kFloor, kMascot.width,
+                      kMascot.height);
+    dra_Atom.setAccessibleName("Doktor Atom");
+    arrangeBar(bar_Buttons, size.width, size.height, "&OK");
+}
 
+void frm_DialogDone::designFigures() {
+    constexpr double kRow = 40;
+    constexpr double kCaption = 124;
+    constexpr double kShortCaption = 48; // beside minutes and seconds in words
     ctl_Label* const values[] = {&lab_Task,      &lab_Points, &lab_HelpUsed,
                                  &lab_SolveUsed, &lab_Wrong,  &lab_Duration};
     for (int row = 0; row < 6; ++row) {
         const double top = kInset + row * kRow;
-        ctl_Label& value = *values[row];
+        const double caption = values[row] == &lab_Duration ? kShortCaption : kCaption;
         lab_Caption(row).setText(kCaptions[row]);
-        arrange(lab_Caption(row), ctl_Pannel1, {kInset, top, kCaption, 24});
-        arrange(value, ctl_Pannel1,
-                {kInset + kCaption, top, kSheetWidth - kCaption - 2 * kInset, 24});
-        value.setTextAlign(TextAlign::Right);
+        arrange(lab_Caption(row), ctl_Pannel1, {kInset, top, caption, 32});
+        arrange(*values[row], ctl_Pannel1, {kInset + caption, top, kFigures - caption, 32});
+        values[row]->setTextAlign(TextAlign::Right);
     }
-    // Minutes and seconds in words need more room than a number.
-    const Rect last = lab_Duration.place();
-    lab_Caption(5).setPlace(kInset, last.top, kShortCaption, last.height);
-    lab_Duration.setPlace(kInset + kShortCaption, last.top,
-                          kSheetWidth - kShortCaption - 2 * kInset, last.height);
-    arrange(lab_Mark, ctl_Pannel1, {kInset, kInset + 6 * kRow, kSheetWidth - 2 * kInset, 40},
-            kReadingFont);
-    lab_Mark.setTextAlign(TextAlign::Right);
-
-    // The picture stands on the ground of the sheet, the mascot beside it.
-    pic_Back.setPlace(kDialogMargin + kSheetWidth + kDialogMargin,
-                      bottom - kDialogMargin - kPicture.height, kPicture.width, kPicture.height);
-    const double mascotLeft = size.width - kDialogMargin - kMascotWidth;
-    dra_Atom.setPlace(mascotLeft, kFloor, kMascotWidth, kMascotSize);
-    dra_Atom.setAccessibleName("Doktor Atom");
-    arrangeBar(bar_Buttons, size.width, size.height, "&OK");
 }
 
 } // namespace quendal

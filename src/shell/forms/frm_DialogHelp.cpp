@@ -4,6 +4,7 @@
 #include "host/path_service.h"
 #include "host/roots.h"
 #include "host/window_system.h"
+#include "shell/forms/arrange.h"
 
 namespace quendal {
 
@@ -35,12 +36,11 @@ void frm_DialogHelp::Form_Resize() {
     if (windowState() == WindowState::Minimised) {
         return;
     }
-    const Rect& bar = ctl_CmdBar1.place();
     ctl_Title1.setPlace(0, 0, inner().width, ctl_Title1.place().height);
-    ctl_CmdBar1.setPlace(0, inner().height - bar.height, inner().width, bar.height);
+    ctl_CmdBar1.setPlace(barPlace(inner().width, inner().height));
     const Rect& text = txt_RTF.place();
     const double width = inner().width - 2 * text.left;
-    const double height = inner().height - text.top - text.left - bar.height;
+    const double height = inner().height - text.top - text.left - ctl_CmdBar1.place().height;
     // A window too small for any text leaves it as it was.
     if (width >= 0 && height >= 0) {
         txt_RTF.setPlace(text.left, text.top, width, height);

@@ -13,7 +13,7 @@ void frm_DialogHelp::design() {
                   .icon = kHelpIcon});
     const double top = kDialogTitleHeight + kDialogMargin;
     arrange(txt_RTF, {kDialogMargin, top, size.width - 2 * kDialogMargin,
-                      size.height - top - kDialogMargin - kDialogBarHeight});
+                      size.height - top - kDialogMargin - kDialogBarRoom});
     txt_RTF.setAccessibleName("Hilfetext");
     arrangeBar(ctl_CmdBar1, size.width, size.height, "&Schließen");
 }

@@ -24,8 +24,9 @@ constexpr const char* kTerms[] = {
 } // namespace
 
 void frm_DialogTerms::design() {
-    constexpr double kRow = 39;
+    constexpr double kRow = 38;
     constexpr double kPadding = 12;
+    const FontSpec kSheetFont{.size = 19}; // subscripts of subscripts must be read
     const Size size = designSize();
     setCaption("Formelsammlung");
     arrangeTitle(ctl_Title1, size.width,
@@ -35,11 +36,11 @@ void frm_DialogTerms::design() {
     const double top = kDialogTitleHeight + kDialogMargin;
     const double width = size.width - 2 * kDialogMargin;
     arrange(ctl_Pannel1,
-            {kDialogMargin, top, width, size.height - top - kDialogMargin - kDialogBarHeight});
+            {kDialogMargin, top, width, size.height - top - kDialogMargin - kDialogBarRoom});
     lab_Term.each([&](int index, ctl_TermLabel& label) {
         label.setTerm(kTerms[index]);
         arrange(label, ctl_Pannel1,
-                {2 * kPadding, kPadding + index * kRow, width - 4 * kPadding, kRow});
+                {2 * kPadding, kPadding + index * kRow, width - 4 * kPadding, kRow}, kSheetFont);
     });
     arrangeBar(ctl_CmdBar1, size.width, size.height, "&Schließen");
 }

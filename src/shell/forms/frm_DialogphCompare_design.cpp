@@ -4,11 +4,11 @@
 namespace quendal {
 
 void frm_DialogphCompare::design() {
-    constexpr double kText = 40;
+    constexpr double kText = 24;
     constexpr double kStatus = 24;
     const Size size = designSize();
     const double width = size.width - 2 * kDialogMargin;
-    const double barTop = size.height - kStatus - kDialogBarHeight;
+    const double barTop = size.height - kStatus - kDialogBarRoom;
     const double pictureTop = kDialogMargin + kText + 8;
     setCaption("Vergleich: Deine Rechnungen und der 'richtige' Verlauf");
     Label1.setText("In dem Graphen siehst Du die praktische Titrationskurve  in welche die von Dir "

@@ -22,10 +22,10 @@ void designFrame(GuidedCalculation& guidance, Control& holder, const char* title
     frame.setText(title);
     frame.setPictureIcon(kCalculatorIcon);
     ctl_Button& oneClick = guidance.but_CalcStep(GuidedCalculation::kOneClick);
-    arrange(oneClick, frame, {308, 642, 128, 28}, kTermFont);
+    arrange(oneClick, frame, {12, 642, 128, 28}, kTermFont);
     oneClick.setText("'one' - Klick");
     ctl_Pannel& warning = guidance.but_AchtungRW;
-    arrange(warning, frame, {286, 36, 150, 44}, {.size = 13, .bold = true});
+    arrange(warning, frame, {278, 2, 160, 32}, {.size = 12, .bold = true});
     warning.setText("Achtung!<br>Neuer Rechenweg!");
     warning.setTextAlign(TextAlign::Centre);
     warning.setTextColor({140, 50, 20});
