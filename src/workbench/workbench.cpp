@@ -272,6 +272,8 @@ void Workbench::but_CalcDone_Click() {
         showScoreOfErrors();
         if (CoreLib().MessageBox.YesNo(std::string(variant_.wrongDirect), "") == BoxAnswer::Yes) {
             guidance().but_HelpCalc_Click();
+        } else {
+            txt_Ph.setFocus();
         }
         return;
     }

@@ -116,6 +116,7 @@ void GuidedCalculation::but_CalcStep_Click(int index) {
     const StepRow* row = rowOf(index);
     if (row != nullptr && !passes(*row)) {
         climbLadder(index);
+        focusStep();
         return;
     }
     if (index == tables_.lastStep) {
@@ -184,7 +185,8 @@ bool GuidedCalculation::clickDueStep() {
     for (int step = 1; step <= kSteps; ++step) {
         // The choice keeps the key for its own button, which has the focus there.
         if (step != tables_.choiceStep && but_CalcStep(step).visible()) {
-            but_CalcStep(step).userClicked();
+            // Not through the button, which would take the focus from the input.
+            but_CalcStep_Click(step);
             return true;
         }
     }
