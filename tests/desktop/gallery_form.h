@@ -24,7 +24,7 @@ class GalleryForm final : public Form {
 
     // What was reported, in order: "click but_Plain", "typed 0,8" ...
     std::vector<std::string> events;
-    std::vector<Key> keys;   // that the form saw first
+    std::vector<Key> keys;      // that the form saw first
     Key swallowed = Key::Other; // taken by the form, unless it is Other
     int resizes = 0;
 

@@ -1,4 +1,5 @@
-// Shows the gallery, or writes a picture of it: quendal_desktop_gallery [FILE.png WIDTH HEIGHT [TAB]]
+// Shows the gallery, or writes a picture of it: quendal_desktop_gallery [FILE.png WIDTH HEIGHT
+// [TAB]]
 #include "desktop/desktop_host.h"
 #include "desktop/gallery_form.h"
 

@@ -13,3 +13,7 @@ quendal_tests(desktop_services_test
     services_rtf_test.cpp
     services_sound_test.cpp
   LINKS quendal_desktop quendal_test_support)
+
+# Pictures of boxes, calculator and chart, for looking: quendal_desktop_services_gallery FOLDER
+add_executable(quendal_desktop_services_gallery services_gallery.cpp)
+target_link_libraries(quendal_desktop_services_gallery PRIVATE quendal_desktop)

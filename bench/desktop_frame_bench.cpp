@@ -1,0 +1,104 @@
+// What a frame of the workbench costs on the real windows, without a screen.
+#include "desktop/desktop_host.h"
+#include "desktop/picture_surface.h"
+#include "desktop/widget_peer.h"
+#include "shell/session/session.h"
+#include "workbench/frm_AppMainStrong.h"
+
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+
+namespace quendal {
+
+namespace {
+
+constexpr int kPairs = 30;
+constexpr int kSettlingFrames = 600;
+constexpr int kOxonium = 8;
+constexpr int kChloride = 3;
+
+// A beaker with 30 mL and 60 particles that have found their places.
+class SettledWorkbench {
+  public:
+    SettledWorkbench(DesktopHost& host, QSize size) : host_(host) {
+        host_.windows().Show(form_);
+        window_ = host_.windows().windowOf(form_);
+        window_->resize(size);
+        form_.vVol = kPairs;
+        form_.vSourceVol[0] = kPairs;
+        for (int i = 0; i < kPairs; ++i) {
+            form_.vMolecules.CREATE(kOxonium, 3.0 * i, 20);
+            form_.vMolecules.CREATE(kChloride, 3.0 * i + 1, 60);
+        }
+        for (int i = 0; i < kSettlingFrames; ++i) {
+            frame();
+        }
+    }
+    ~SettledWorkbench() { host_.windows().Unload(form_); }
+
+    void frame() {
+        form_.hThinkDo();
+        host_.windows().DoEvents();
+    }
+    // As if every particle had moved. Painted at once: the window system would put several updates
+    // together.
+    void paintPictures() {
+        for (PictureBox* box : {&form_.pic_Bowl, &form_.pic_Water, &form_.pic_Glass}) {
+            if (auto* surface = dynamic_cast<PictureSurface*>(&box->surface())) {
+                surface->invalidate();
+            }
+            if (const WidgetPeer* peer = window_->peerOf(*box)) {
+                peer->widget()->repaint();
+            }
+        }
+    }
+
+  private:
+    DesktopHost& host_;
+    frm_AppMainStrong form_;
+    FormWindow* window_ = nullptr;
+};
+
+DesktopHost* theHost = nullptr;
+
+QSize sizeOf(const benchmark::State& state) {
+    return {static_cast<int>(state.range(0)), static_cast<int>(state.range(1))};
+}
+
+void frameAtRest(benchmark::State& state) {
+    SettledWorkbench workbench(*theHost, sizeOf(state));
+    for (auto _ : state) {
+        workbench.frame();
+    }
+}
+BENCHMARK(frameAtRest)->Args({1366, 768})->Args({1920, 1080})->Unit(benchmark::kMicrosecond);
+
+void frameWithEverythingMoved(benchmark::State& state) {
+    SettledWorkbench workbench(*theHost, sizeOf(state));
+    for (auto _ : state) {
+        workbench.frame();
+        workbench.paintPictures();
+    }
+}
+BENCHMARK(frameWithEverythingMoved)
+    ->Args({1366, 768})
+    ->Args({1920, 1080})
+    ->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+} // namespace quendal
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    quendal::CommandLine line;
+    line.dataFolder = QUENDAL_SOURCE_DIR "/data";
+    quendal::DesktopHost host(application, line);
+    quendal::theHost = &host;
+    quendal::session().SessionChartFactory = &host.app().Calculator.ChartFactory();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,20 @@
+// Colours of the system and pictures from files.
+#pragma once
+
+#include "host/file_service.h"
+#include "host/graphics.h"
+
+namespace quendal {
+
+class DesktopGraphics final : public Graphics {
+  public:
+    explicit DesktopGraphics(const FileService& files) : files_(files) {}
+    Color SystemColor(int number) const override;
+    // A twin three times the size is taken from the subfolder "x3" beside the file.
+    PicturePtr LoadPicture(const std::string& path) override;
+
+  private:
+    const FileService& files_;
+};
+
+} // namespace quendal

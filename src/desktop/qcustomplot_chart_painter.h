@@ -1,0 +1,13 @@
+// Puts charts into picture boxes.
+#pragma once
+
+#include "host/chart.h"
+
+namespace quendal {
+
+class QCustomPlotChartPainter final : public ChartPainter {
+  public:
+    void render(const ChartDocument& document, PictureBox& target, double scale) override;
+};
+
+} // namespace quendal

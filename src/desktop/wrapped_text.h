@@ -1,0 +1,22 @@
+// A text that wraps, even inside a word that is too long, and scrolls before it is clipped.
+#pragma once
+
+#include <QTextEdit>
+
+namespace quendal {
+
+class WrappedText final : public QTextEdit {
+    Q_OBJECT
+  public:
+    // As small as the text allows, at most `most` pixels large.
+    WrappedText(const QString& text, const QFont& font, QSize most, QWidget* parent);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void spaceLines();
+    void fit(QSize most);
+};
+
+} // namespace quendal
