@@ -8,7 +8,7 @@ run_packages=(
     libqt6svg6 qt6-qpa-plugins qt6-translations-l10n breeze-icon-theme fonts-liberation
 )
 test_packages=(
-    clang libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev xvfb
+    clang libclang-rt-14-dev libgtest-dev libbenchmark-dev libmuparser-dev python3
 )
 
 say() { printf '== %s\n' "$*"; }
