@@ -2,7 +2,7 @@
 
 build_packages=(
     g++ cmake ninja-build
-    qt6-base-dev qt6-multimedia-dev libqcustomplot-dev libgl1-mesa-dev
+    qt6-base-dev qt6-svg-dev qt6-multimedia-dev libqcustomplot-dev libgl1-mesa-dev
 )
 run_packages=(
     libqt6svg6 qt6-qpa-plugins qt6-translations-l10n breeze-icon-theme fonts-liberation
