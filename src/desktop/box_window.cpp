@@ -15,7 +15,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
-#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -163,12 +162,13 @@ int BoxWindow::run(const std::function<void()>& learner, std::optional<QPoint> p
     const PlainPointer pointer;
     putOnScreen(below, place);
     if (learner) {
-        QTimer::singleShot(0, this, [this, learner] {
-            learner();
-            finish(escapeCode_);
-        });
+        // Before the program's own pump runs: whoever feeds that must not go on beneath the box.
+        QCoreApplication::processEvents();
+        learner();
+        finish(escapeCode_);
+    } else {
+        CoreLib().Windows.waitWhile([this] { return !answer_; });
     }
-    CoreLib().Windows.waitWhile([this] { return !answer_; });
     hide();
     if (below != nullptr && below->isVisible()) {
         below->activateWindow();

@@ -40,7 +40,8 @@ class BoxWindow : public QWidget {
 
     // Shows the box over the window in use, or with its left upper corner at `place`, and waits.
     // `learner` stands in for who sits there: it is called once, when the box is on the screen, and
-    // clicks and types as they would; a box that it leaves open is closed by Esc.
+    // clicks and types as they would; a box that it leaves open is closed by Esc, and
+    // the program's own pump doesn't run meanwhile.
     int run(const std::function<void()>& learner = {}, std::optional<QPoint> place = {});
     void finish(int code);
 

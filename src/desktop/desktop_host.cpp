@@ -6,6 +6,8 @@
 #include "host/virtual_clock.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 #include <clocale>
 
@@ -22,6 +24,14 @@ T& orOwn(T* standIn, T& own) {
 const ObserverLink& withPlainNumbers(const ObserverLink& link) {
     std::setlocale(LC_NUMERIC, "C");
     return link;
+}
+
+// The texts that Qt brings along, those of an input's own menu say.
+void speakGerman(QApplication& application) {
+    auto* texts = new QTranslator(&application); // the application owns it
+    if (texts->load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(texts);
+    }
 }
 
 } // namespace
@@ -46,6 +56,7 @@ DesktopHost::DesktopHost(QApplication& application, const CommandLine& line,
     QApplication::setWindowIcon(
         QIcon(QString::fromStdString(app_.PathService.DataPath() + "icons/quendal.svg")));
     look::apply(application);
+    speakGerman(application);
     installRoots(app_, coreLib_);
 }
 

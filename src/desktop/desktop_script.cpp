@@ -78,6 +78,8 @@ std::string commandLineFor(const ScriptSettings& settings, const QString& folder
 }
 
 void applySettings(DesktopHost& host, const ScriptSettings& settings) {
+    host.windows().setScreen(
+        {static_cast<int>(settings.screen.width), static_cast<int>(settings.screen.height)});
     host.numbers().setDecimalSign(settings.sign);
     host.app().SoundOptions.Mode = settings.sound;
     host.app().HostControl.UserName = settings.name;

@@ -43,7 +43,8 @@ DesktopWindowSystem::DesktopWindowSystem(Clock& clock, VirtualClock* scriptClock
 DesktopWindowSystem::~DesktopWindowSystem() = default;
 
 QRect DesktopWindowSystem::available() const {
-    return QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect whole = QGuiApplication::primaryScreen()->availableGeometry();
+    return screen_.isEmpty() ? whole : QRect(whole.topLeft(), screen_);
 }
 
 double DesktopWindowSystem::workbenchScale() const {
@@ -158,7 +159,8 @@ void DesktopWindowSystem::realise(Form& form, bool modal) {
     if (windowOf(form) != &window) {
         return; // the form has closed itself in its Resize
     }
-    form.windowState() == WindowState::Maximised ? window.showMaximized() : window.show();
+    const bool fills = form.windowState() == WindowState::Maximised && screen_.isEmpty();
+    fills ? window.showMaximized() : window.show();
     window.activateWindow();
     window.showFocus();
     if (link_.observer != nullptr) {

@@ -30,6 +30,9 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
 
     // Somebody who stands in for the learner; null: nobody.
     void setFeed(EventFeed* feed) { feed_ = feed; }
+    // The part of the screen that the program sees, from its left upper corner; the whole of it
+    // without this.
+    void setScreen(QSize size) { screen_ = size; }
     // What must be kept is flushed by these, in order, before the process ends.
     void atEnd(std::function<void()> hook) { endHooks_.push_back(std::move(hook)); }
     // The status that the process ends with; 0 where nobody says otherwise.
@@ -73,6 +76,7 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
     const ObserverLink& link_;
     EventFeed* feed_ = nullptr;
     QTimer wake_;
+    QSize screen_; // empty: the whole one
     std::map<const Form*, Surfaces> surfaces_;
     std::vector<std::unique_ptr<FormWindow>> windows_; // in the order of their showing
     std::vector<std::unique_ptr<FormWindow>> graves_;  // off the screen, perhaps still on the stack

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -131,12 +132,7 @@ void FormWindow::makePeers() {
         }
     }
     for (const auto& peer : peers_) {
-        const Control* container = peer->control()->container();
-        WidgetPeer* outer = container == nullptr ? nullptr : peerOf(*container);
-        QWidget* parent = outer == nullptr ? content_ : outer->widget();
-        if (peer->widget()->parentWidget() != parent) {
-            peer->widget()->setParent(parent);
-        }
+        peer->refreshPlace();
         for (QWidget* target : peer->focusTargets()) {
             target->removeEventFilter(this);
             target->installEventFilter(this);
@@ -237,6 +233,7 @@ void FormWindow::arrange() {
     for (const auto& peer : peers_) {
         peer->refresh();
     }
+    QToolTip::setFont(look::font(look::kTextSize, scale_));
     const Size design = form_->designSize();
     const Visit visit(*this);
     owner_.innerSize(*form_, {std::max(design.width, content_->width() / scale_),

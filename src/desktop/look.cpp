@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QToolTip>
 #include <QVariant>
 #include <QWidget>
 
@@ -58,6 +59,7 @@ void apply(QApplication& application) {
     QFont::insertSubstitutions("Tahoma", {"Liberation Sans", "DejaVu Sans"});
     QApplication::setStyle(new LookStyle); // the application owns it
     QApplication::setPalette(lightPalette());
+    QToolTip::setPalette(lightPalette());
     application.setFont(font(kTextSize, 1.0));
 }
 

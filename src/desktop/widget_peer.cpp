@@ -177,8 +177,22 @@ void WidgetPeer::refresh() {
     refreshVisibility();
 }
 
+// A control may be moved into another container at any time.
+void WidgetPeer::standInContainer() {
+    const Control* container = control_->container();
+    const auto* outer =
+        container == nullptr ? nullptr : dynamic_cast<WidgetPeer*>(container->peer());
+    QWidget* parent = outer == nullptr ? &window_.content() : outer->widget();
+    if (widget_->parentWidget() != parent) {
+        const bool hidden = widget_->isHidden();
+        widget_->setParent(parent);
+        widget_->setVisible(!hidden);
+    }
+}
+
 void WidgetPeer::refreshPlace() {
     const Telling telling(telling_);
+    standInContainer();
     const QRect place = pixelRect(control_->place(), scale());
     if (widget_->geometry() != place) {
         widget_->setGeometry(place);

@@ -70,6 +70,7 @@ class WidgetPeer : public ControlPeer {
   private:
     void apply(Aspect aspect);
     void applyEnabled();
+    void standInContainer();
     void keepFocusFromMoving();
 
     Control* control_;

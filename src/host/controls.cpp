@@ -9,6 +9,19 @@
 
 namespace quendal {
 
+namespace {
+
+template <class Items, class TextOf>
+std::string joinedWithCommas(const Items& items, TextOf textOf) {
+    std::string list;
+    for (const auto& item : items) {
+        list += (list.empty() ? "" : ",") + textOf(item);
+    }
+    return list;
+}
+
+} // namespace
+
 void ctl_Button::describe(FieldTable& table) const {
     Control::describe(table);
     table.add("bordercolor", borderColor_);
@@ -55,6 +68,12 @@ void CheckBox::clicked() {
     Control::clicked();
 }
 
+void ctl_Label::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("wordwrap", wordWrap_);
+    table.add("angle", angle_);
+}
+
 void ctl_TermLabel::describe(FieldTable& table) const {
     Control::describe(table);
     table.addGetter("term", [this] { return FieldValue(term()); });
@@ -98,9 +117,22 @@ void RichTextBox::describe(FieldTable& table) const {
     table.add("file", fileName_);
 }
 
+void ctl_Pannel::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("bordercolor", borderColor_);
+    table.add("backcolor", backColor_);
+}
+
 void ctl_Title::describe(FieldTable& table) const {
     Control::describe(table);
     table.add("title", title_);
+}
+
+void ctl_CmdBar::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.addGetter("buttons", [this] {
+        return FieldValue(joinedWithCommas(buttons_, [](const Button& b) { return b.command; }));
+    });
 }
 
 void ctl_CmdBar::userCommand(const std::string& command) {
@@ -124,6 +156,10 @@ void ctl_Executor::userCommand(const std::string& command) {
 void TabControl::describe(FieldTable& table) const {
     Control::describe(table);
     table.add("index", tab_);
+    table.addGetter("text", [this] {
+        const auto chosen = static_cast<std::size_t>(tab_);
+        return FieldValue(chosen < captions_.size() ? captions_[chosen] : text());
+    });
 }
 
 void TabControl::setTab(int tab) {
@@ -143,11 +179,7 @@ void ListBox::describe(FieldTable& table) const {
     Control::describe(table);
     table.add("index", listIndex_);
     table.addGetter("items", [this] {
-        std::string list;
-        for (const std::string& item : items_) {
-            list += (list.empty() ? "" : ",") + item;
-        }
-        return FieldValue(list);
+        return FieldValue(joinedWithCommas(items_, [](const std::string& item) { return item; }));
     });
 }
 

@@ -13,6 +13,11 @@ const std::string& KeyList::Item(int index) const {
     return Exists(index) ? entries_[static_cast<std::size_t>(index - 1)].item : kNothing;
 }
 
+bool KeyList::Exists(std::string_view key) const {
+    return std::any_of(entries_.begin(), entries_.end(),
+                       [key](const Entry& entry) { return entry.key == key; });
+}
+
 bool KeyList::Remove(std::string_view key) {
     const auto found = std::find_if(entries_.begin(), entries_.end(),
                                     [key](const Entry& entry) { return entry.key == key; });

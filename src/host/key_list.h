@@ -15,6 +15,7 @@ class KeyList {
     // Index from 1; outside 1 to Count the text is empty.
     const std::string& Item(int index) const;
     bool Exists(int index) const { return index >= 1 && index <= Count(); }
+    bool Exists(std::string_view key) const;
     // Removes the first item with this key; false when there is none.
     bool Remove(std::string_view key);
     void Clear() { entries_.clear(); }

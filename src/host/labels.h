@@ -9,6 +9,7 @@ class ctl_Label final : public Control {
   public:
     using Control::Control;
     ControlKind kind() const override { return ControlKind::Label; }
+    void describe(FieldTable& table) const override;
     bool wordwrap() const { return wordWrap_; }
     void setWordWrap(bool wrap) { assign(wordWrap_, wrap, Aspect::Text); }
     double angle() const { return angle_; } // degrees, counter-clockwise

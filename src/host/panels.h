@@ -25,6 +25,7 @@ class ctl_Pannel final : public Control {
   public:
     using Control::Control;
     ControlKind kind() const override { return ControlKind::Panel; }
+    void describe(FieldTable& table) const override;
     Color bordercolor() const { return borderColor_; }
     void setBorderColor(Color color) { assign(borderColor_, color, Aspect::Colours); }
     Color backcolor() const { return backColor_; }
@@ -74,6 +75,7 @@ class ctl_CmdBar final : public Control {
     using Control::Control;
     ControlKind kind() const override { return ControlKind::CmdBar; }
     bool takesFocus() const override { return true; }
+    void describe(FieldTable& table) const override;
     const std::vector<Button>& buttons() const { return buttons_; }
     void setButtons(std::vector<Button> buttons) {
         assign(buttons_, std::move(buttons), Aspect::Items);

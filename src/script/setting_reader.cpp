@@ -36,9 +36,11 @@ bool readSize(const Words& words, ScriptSettings& settings) {
     return width > 0 && width <= kMost && height > 0 && height <= kMost;
 }
 
+// Any number: the program must bear modes that it doesn't know.
 bool readSound(const Words& words, ScriptSettings& settings) {
-    settings.sound = wholeNumber(words[1]).value_or(-1);
-    return settings.sound >= 0 && settings.sound <= 3;
+    const auto mode = wholeNumber(words[1]);
+    settings.sound = mode.value_or(0);
+    return mode.has_value();
 }
 
 bool readLocale(const Words& words, ScriptSettings& settings) {

@@ -55,7 +55,8 @@ constexpr LabelPlace kLabels[] = {
 
 constexpr const char* kHeadingTexts[] = {
     "1. Stoffmenge vorgelegte Säure", "2. Stoffmenge der zugetropften Base",
-    "3. Welche Stoffmenge ist größer? - für pH wichtig!!", "", "5. pH-Wert berechnen"};
+    "3. Welche Stoffmenge ist größer? - für pH wichtig!!",
+    "4. Konzentration  c(S') oder c(OH') neu berechnen", "5. pH-Wert berechnen"};
 
 constexpr const char* kOptionTexts[] = {"vorgelegte Säure nV(S)", "zugetropfte Base nZ(OH)",
                                         "beide Mengen gleich nV(S)=nZ(OH)"};

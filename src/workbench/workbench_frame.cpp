@@ -22,6 +22,18 @@ constexpr double kScaleEnd = 0.035; // L at the upper end of the beaker's scale
 constexpr double kPatience = 10.0;  // s that a click waits for the beaker
 constexpr double kWaterGone = 100;  // Fade at which a helper water molecule disappears
 
+// Water that helps no reaction fades out, everything else in. True when it is out.
+bool fadedAway(cls_Molecule& particle) {
+    if (particle.SORT() == kWater && !particle.Reacting) {
+        particle.Fade += 1;
+        return particle.Fade >= kWaterGone;
+    }
+    if (particle.Fade > 0) {
+        particle.Fade -= 10;
+    }
+    return false;
+}
+
 } // namespace
 
 bool Workbench::leaving() const {
@@ -193,24 +205,15 @@ void Workbench::hParticleStep(bool calm) {
     }
     for (int i = 1; i <= vMolecules.COUNT();) {
         const std::shared_ptr<cls_Molecule> particle = vMolecules.share(i);
-        if (particle->Fade < 0) {
-            particle->Fade = 0;
-        }
+        particle->Fade = std::max(0.0, particle->Fade);
         particle->THINK();
+        if (fadedAway(*particle)) {
+            vMolecules.removeParticle(*particle);
+        }
         const bool stays = i <= vMolecules.COUNT() && vMolecules.share(i) == particle;
-        if (!stays) {
-            continue; // it is gone, and another one has taken its place
+        if (stays) {
+            ++i; // else it is gone, and another one has taken its place
         }
-        if (particle->SORT() == kWater && !particle->Reacting) {
-            particle->Fade += 1;
-            if (particle->Fade >= kWaterGone) {
-                vMolecules.REMOVE(i);
-                continue;
-            }
-        } else if (particle->Fade > 0) {
-            particle->Fade -= 10;
-        }
-        ++i;
     }
 }
 
@@ -260,6 +263,7 @@ void Workbench::showBalance() {
     for (std::size_t i = 0; i < variant_.species.size(); ++i) {
         const BalanceLine& species = variant_.species[i];
         const int amount = balanceOf(species);
+        vCount[static_cast<std::size_t>(species.kind)] = amount;
         const bool trace = (species.trace == Trace::FromEquivalence && vVol >= equivalence) ||
                            (species.trace == Trace::UpToEquivalence && vVol <= equivalence);
         if (amount == shown_.balance[i] && trace == shown_.trace[i]) {

@@ -143,6 +143,7 @@ void Workbench::drawScale() {
     constexpr double kGlassTop = 60; // px to the upper end of the scale
     constexpr int kTicks = 35;       // one for each mL
     constexpr double kTick = 20;     // px
+    constexpr double kTextGap = 2;   // px
     const Rect& outer = pic_BowlOuter.place();
     if (outer.width > 2 * kInset && outer.height > kGlassTop + kInset) {
         pic_Bowl.setPlace(kInset, kGlassTop, outer.width - 2 * kInset,
@@ -158,7 +159,7 @@ void Workbench::drawScale() {
         if (lettered) {
             // The lowest number stands on the foot of the glass, the others beside their tick.
             const double rise = points(10) * (i == 0 ? 1.2 : 0.62);
-            letterScale(glass, {bowl.left + kTick + 3, y - rise}, i);
+            letterScale(glass, {bowl.left + kTick + kTextGap, y - rise}, i);
         }
     }
     drawGlassOutline(glass);

@@ -127,7 +127,7 @@ TEST(ScriptParser, RefusesWhatIsMalformed) {
         "size 100\nstart",
         "size 0x100\nstart",
         "size 100x1000000\nstart",
-        "sound 4\nstart",
+        "sound laut\nstart",
         "locale de\nstart",
         "name\nstart",
         "data \"\"\nstart",

@@ -50,6 +50,7 @@ class TestForm final : public Form {
     ListBox lst_Mol{*this, "lst_Mol"};
     ctl_CmdBar bar{*this, "ctl_CmdBar1"};
     PictureBox pic_Bowl{*this, "pic_Bowl"};
+    ctl_Pannel pnl_Sheet{*this, "pnl_Sheet"};
 };
 
 class Controls : public testing::Test {
@@ -284,6 +285,27 @@ TEST_F(Controls, DescribeThemselves) {
     EXPECT_EQ(table.find("text"), FieldValue(std::string("A")));
     EXPECT_EQ(table.find("focus"), FieldValue(false));
     EXPECT_EQ(table.find("weg"), std::nullopt);
+}
+
+TEST_F(Controls, DescribeWhatOnlyTheirKindHas) {
+    const auto ask = [](const Control& control, const char* property) {
+        FieldTable table;
+        control.describe(table);
+        return table.find(property);
+    };
+    form.pnl_Sheet.setBorderColor({1, 2, 3});
+    EXPECT_EQ(ask(form.pnl_Sheet, "bordercolor"), FieldValue(Color{1, 2, 3}));
+    EXPECT_EQ(ask(form.pnl_Sheet, "backcolor"), FieldValue(kWhite));
+    form.lab_Text.setAngle(90);
+    EXPECT_EQ(ask(form.lab_Text, "angle"), FieldValue(90.0));
+    form.tab_Pages.setTab(1);
+    EXPECT_EQ(ask(form.tab_Pages, "text"), FieldValue(std::string("two")));
+    form.tab_Pages.setCaptions({});
+    EXPECT_EQ(ask(form.tab_Pages, "text"), FieldValue(std::string()));
+    form.bar.setButtons({{"DIALOG.OK();", "&OK", ""}, {"DIALOG.ABORT();", "&Abbrechen", ""}});
+    EXPECT_EQ(ask(form.bar, "buttons"), FieldValue(std::string("DIALOG.OK();,DIALOG.ABORT();")));
+    form.lst_Mol.setItems({"0.6", "0.8"});
+    EXPECT_EQ(ask(form.lst_Mol, "items"), FieldValue(std::string("0.6,0.8")));
 }
 
 } // namespace

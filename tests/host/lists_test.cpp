@@ -55,6 +55,9 @@ TEST(KeyList, CountsFromOne) {
         EXPECT_FALSE(list.Exists(index));
     }
     EXPECT_TRUE(list.Exists(1));
+    EXPECT_TRUE(list.Exists("a"));
+    EXPECT_FALSE(list.Exists("first"));
+    EXPECT_FALSE(list.Exists(""));
 }
 
 TEST(KeyList, RemovesTheFirstWithTheKey) {

@@ -1,0 +1,110 @@
+// The strong acid's workbench on a fake host, shown without its main loop, so that a test calls its
+// routines one by one.
+#pragma once
+
+#include "shell/shell_fixture.h"
+#include "workbench/frm_AppMainStrong.h"
+
+#include "shell/forms/frm_DialogphCompare.h"
+#include "shell/forms/instances.h"
+
+#include <memory>
+
+namespace quendal::test {
+
+class BenchTest : public ShellTest {
+  protected:
+    static constexpr const char* kCurve = "Volumen;pH\n0;0,1\n10;7\n20;13,4\n";
+
+    BenchTest() {
+        session().SessionChartFactory = &host.calculator.ChartFactory();
+        for (const char* name : {"phstark06", "phstark08", "phstark10", "phstark12", "phstark14"}) {
+            host.files.write(std::string("data/") + name + ".crv", kCurve);
+        }
+    }
+
+    frm_AppMainStrong& open(double concentration = 1.0, bool demo = false) {
+        session().SessionConcentration = concentration;
+        session().SessionDemo = demo;
+        bench_ = std::make_unique<frm_AppMainStrong>();
+        host.windows.Show(*bench_);
+        return *bench_;
+    }
+    frm_AppMainStrong& bench() { return *bench_; }
+    // Off the screen, as at the end of a task.
+    void close() {
+        host.windows.Unload(*bench_);
+        bench_.reset();
+    }
+
+    // As after the pipette and `millilitres` from the burette.
+    void addBase(int millilitres) {
+        bench().vPipShown = bench().vPipReady = false;
+        bench().vBurShown = bench().vBurReady = true;
+        bench().vVol = 10 + millilitres;
+        bench().vSourceVol = {10, millilitres};
+        bench().sClicks = millilitres;
+        bench().hThinkDo();
+    }
+
+    template <class T>
+    T& control(const char* name, int index = Control::kNoIndex) {
+        return dynamic_cast<T&>(*bench().findControl(name, index));
+    }
+    std::string term(const char* name, int index) {
+        return control<ctl_TermLabel>(name, index).term();
+    }
+    bool visible(const char* name, int index = Control::kNoIndex) {
+        return control<Control>(name, index).visible();
+    }
+    clt_TermInput& input(int step) { return control<clt_TermInput>("txt_Calc", step); }
+    ctl_Button& stepButton(int step) { return control<ctl_Button>("but_CalcStep", step); }
+
+    FieldValue field(const char* name) {
+        FieldTable table;
+        bench().describe(table);
+        return table.find(name).value();
+    }
+    std::int64_t number(const char* name) { return std::get<std::int64_t>(field(name)); }
+    int dueStep() { return static_cast<int>(number("sStep")); }
+
+    void startCalculation() { bench().but_HelpCalc.onClick(); }
+    // Types an answer and presses the button of the step.
+    void answer(int step, const std::string& text) {
+        input(step).userTyped(text);
+        stepButton(step).userClicked();
+    }
+    void choose(int option) {
+        control<OptionButton>("opt_Calc", option).setChecked(true);
+        stepButton(7).userClicked();
+    }
+    // The learner closes whatever dialog comes next.
+    void closeNextDialog() {
+        later([this] { host.windows.userClosed(*host.windows.top()); });
+    }
+
+    const RecordingMessageBox::Shown& lastBox() const { return host.boxes.shown.back(); }
+
+    void begin(double concentration, int base, bool demo = false) {
+        open(concentration, demo);
+        addBase(base);
+        startCalculation();
+    }
+    bool flag(const char* name) { return std::get<bool>(field(name)); }
+    bool reached(int step) {
+        FieldTable table;
+        bench().describe(table);
+        return std::get<bool>(table.find("vStepReached", step).value());
+    }
+    bool headingVisible(int index) { return visible("lab_CalcStep", index); }
+    void expectBox(const char* kind, const std::string& text) {
+        EXPECT_EQ(lastBox().kind, kind);
+        EXPECT_EQ(lastBox().text, text);
+        EXPECT_EQ(lastBox().title, "");
+    }
+
+  private:
+    std::unique_ptr<frm_AppMainStrong> bench_;
+};
+
+} // namespace quendal::test
