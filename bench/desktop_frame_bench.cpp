@@ -1,7 +1,7 @@
 // What a frame of the workbench costs on the real windows, without a screen.
 #include "desktop/desktop_host.h"
-#include "desktop/picture_surface.h"
-#include "desktop/widget_peer.h"
+#include "desktop/pictures/picture_surface.h"
+#include "desktop/windows/widget_peer.h"
 #include "shell/session/session.h"
 #include "workbench/frm_AppMainStrong.h"
 

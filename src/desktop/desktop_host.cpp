@@ -1,7 +1,7 @@
 #include "desktop/desktop_host.h"
 
-#include "desktop/look.h"
-#include "desktop/product.h"
+#include "desktop/services/product.h"
+#include "desktop/windows/look.h"
 #include "host/event_feed.h"
 #include "host/virtual_clock.h"
 

@@ -6,35 +6,35 @@ find_package(QCustomPlotQt6 REQUIRED)
 include(${CMAKE_CURRENT_LIST_DIR}/files.cmake)
 
 set(QUENDAL_DESKTOP_SERVICES
-  about_box.cpp
-  box_sign.cpp
-  box_window.cpp
-  calculator_display.cpp
-  calculator_keypad.cpp
-  calculator_window.cpp
-  chart_plot.cpp
-  chart_snapshot.cpp
-  data_folder.cpp
-  desktop_calculator.cpp
-  desktop_host_app.cpp
-  desktop_message_box.cpp
-  desktop_random.cpp
-  desktop_sound_bank.cpp
-  desktop_system_info.cpp
-  ini_host_control.cpp
-  qcustomplot_chart_painter.cpp
-  report_file.cpp
-  rich_text_reader.cpp
-  rich_text_writer.cpp
-  synthetic_input.cpp
-  veil.cpp
-  wrapped_text.cpp)
+  boxes/about_box.cpp
+  boxes/box_sign.cpp
+  boxes/box_window.cpp
+  boxes/calculator_display.cpp
+  boxes/calculator_keypad.cpp
+  boxes/calculator_window.cpp
+  boxes/desktop_calculator.cpp
+  boxes/desktop_message_box.cpp
+  boxes/veil.cpp
+  boxes/wrapped_text.cpp
+  charts/chart_plot.cpp
+  charts/chart_snapshot.cpp
+  charts/qcustomplot_chart_painter.cpp
+  script/synthetic_input.cpp
+  services/data_folder.cpp
+  services/desktop_host_app.cpp
+  services/desktop_random.cpp
+  services/desktop_sound_bank.cpp
+  services/desktop_system_info.cpp
+  services/ini_host_control.cpp
+  services/report_file.cpp
+  services/rich_text_reader.cpp
+  services/rich_text_writer.cpp)
 
 set(QUENDAL_DESKTOP_SERVICE_LINKS
   quendal_desktop_files Qt6::Widgets Qt6::Multimedia Qt6::PrintSupport
   QCustomPlotQt6::QCustomPlotQt6)
 
-# Where data_folder.cpp looks last.
+# Where services/data_folder.cpp looks last.
 include(GNUInstallDirs)
-set_source_files_properties(data_folder.cpp PROPERTIES COMPILE_DEFINITIONS
+set_source_files_properties(services/data_folder.cpp PROPERTIES COMPILE_DEFINITIONS
   "QUENDAL_INSTALLED_DATA=\"${CMAKE_INSTALL_FULL_DATADIR}/quendal/data\";QUENDAL_SOURCE_DATA=\"${CMAKE_SOURCE_DIR}/data\"")

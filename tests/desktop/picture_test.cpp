@@ -1,9 +1,9 @@
 // Pictures: surfaces, copies, icons, the mascot.
 #include "desktop/window_rig.h"
 
-#include "desktop/atom_face.h"
-#include "desktop/desktop_picture.h"
-#include "desktop/picture_surface.h"
+#include "desktop/pictures/desktop_picture.h"
+#include "desktop/pictures/picture_surface.h"
+#include "desktop/windows/atom_face.h"
 #include "host/log.h"
 
 #include <QPainter>
@@ -151,6 +151,21 @@ TEST(PictureCopy, ATwinGivesTheDetailWhereTheScaleAsksForIt) {
     EXPECT_EQ(picture.prepared(2).size(), QSize(1920, 192));
     const DesktopPicture blurred(QImage(folder + "header.gif"), {});
     EXPECT_NE(picture.prepared(2), blurred.prepared(2));
+}
+
+TEST(PictureCopy, ABrokenTwinCostsTheDetailAndOneLoggedLine) {
+    std::vector<std::string> lines;
+    const LogSink before =
+        exchangeLogSink([&](std::string_view line) { lines.emplace_back(line); });
+    const QString folder = QStringLiteral(QUENDAL_SOURCE_DIR "/data/");
+    const QImage file(folder + "header.gif");
+    const DesktopPicture picture(file, folder + "ph.crv");
+    const DesktopPicture plain(file);
+    EXPECT_EQ(picture.prepared(2), plain.prepared(2));
+    EXPECT_EQ(picture.prepared(3), plain.prepared(3));
+    exchangeLogSink(before);
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_NE(lines[0].find("ph.crv"), std::string::npos);
 }
 
 using GraphicsTest = WindowTest;

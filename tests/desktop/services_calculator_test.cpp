@@ -1,8 +1,8 @@
-#include "desktop/calculator_display.h"
-#include "desktop/calculator_window.h"
-#include "desktop/desktop_calculator.h"
-#include "desktop/qcustomplot_chart_painter.h"
-#include "desktop/synthetic_input.h"
+#include "desktop/boxes/calculator_display.h"
+#include "desktop/boxes/calculator_window.h"
+#include "desktop/boxes/desktop_calculator.h"
+#include "desktop/charts/qcustomplot_chart_painter.h"
+#include "desktop/script/synthetic_input.h"
 #include "services_host.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "desktop/command_line.h"
+#include "desktop/files/command_line.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "desktop/control_file.h"
-#include "desktop/ini_host_control.h"
-#include "desktop/observer_link.h"
-#include "desktop/report_file.h"
+#include "desktop/files/control_file.h"
+#include "desktop/services/ini_host_control.h"
+#include "desktop/services/observer_link.h"
+#include "desktop/services/report_file.h"
 #include "host/log_capture.h"
 
 #include <QDir>

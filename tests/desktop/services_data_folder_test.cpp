@@ -1,4 +1,4 @@
-#include "desktop/data_folder.h"
+#include "desktop/services/data_folder.h"
 #include "host/log_capture.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 // Writes pictures of the boxes, the calculator, the about box and a chart, for looking:
 // quendal_desktop_services_gallery FOLDER
-#include "desktop/box_window.h"
-#include "desktop/chart_plot.h"
+#include "desktop/boxes/box_window.h"
+#include "desktop/charts/chart_plot.h"
 #include "desktop/desktop_host.h"
-#include "desktop/synthetic_input.h"
+#include "desktop/script/synthetic_input.h"
 #include "host/calc_presets.h"
 
 #include <QApplication>

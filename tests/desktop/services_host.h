@@ -1,8 +1,8 @@
 // Roots whose window system pumps real events, for services that show something.
 #pragma once
 
-#include "desktop/desktop_clock.h"
-#include "desktop/observer_link.h"
+#include "desktop/services/desktop_clock.h"
+#include "desktop/services/observer_link.h"
 #include "host/host_observer.h"
 #include "support/fake_roots.h"
 

@@ -1,5 +1,5 @@
 // The tests of the desktop's services run without a screen.
-#include "desktop/look.h"
+#include "desktop/windows/look.h"
 
 #include <QApplication>
 

@@ -1,5 +1,5 @@
-#include "desktop/ini_host_control.h"
-#include "desktop/report_file.h"
+#include "desktop/services/ini_host_control.h"
+#include "desktop/services/report_file.h"
 #include "host/log_capture.h"
 #include "services_host.h"
 

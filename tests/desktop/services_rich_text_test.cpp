@@ -1,4 +1,4 @@
-#include "desktop/rich_text_reader.h"
+#include "desktop/services/rich_text_reader.h"
 
 #include <QFile>
 #include <QTemporaryDir>

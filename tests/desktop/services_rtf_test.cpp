@@ -1,7 +1,7 @@
-#include "desktop/rtf_document.h"
-#include "desktop/rtf_tokens.h"
-#include "desktop/table_grid.h"
-#include "desktop/text_bytes.h"
+#include "desktop/files/rtf_document.h"
+#include "desktop/files/rtf_tokens.h"
+#include "desktop/files/table_grid.h"
+#include "desktop/files/text_bytes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "desktop/desktop_sound_bank.h"
-#include "desktop/observer_link.h"
+#include "desktop/services/desktop_sound_bank.h"
+#include "desktop/services/observer_link.h"
 #include "host/disk_file_service.h"
 #include "host/log_capture.h"
 #include "services_host.h"

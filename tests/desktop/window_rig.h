@@ -3,9 +3,9 @@
 #pragma once
 
 #include "desktop/desktop_host.h"
-#include "desktop/desktop_script_actor.h"
 #include "desktop/gallery_form.h"
-#include "desktop/widget_peer.h"
+#include "desktop/script/desktop_script_actor.h"
+#include "desktop/windows/widget_peer.h"
 #include "host/event_feed.h"
 #include "host/virtual_clock.h"
 

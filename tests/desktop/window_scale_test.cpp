@@ -1,9 +1,9 @@
 // One scale for everything: places, fonts, inner size; and no text outside its control.
 #include "desktop/window_rig.h"
 
-#include "desktop/look.h"
-#include "desktop/term_layout.h"
-#include "desktop/text_fit.h"
+#include "desktop/windows/look.h"
+#include "desktop/windows/term_layout.h"
+#include "desktop/windows/text_fit.h"
 
 #include <QFontMetricsF>
 #include <QMenuBar>

@@ -1,4 +1,4 @@
-#include "desktop/command_line.h"
+#include "desktop/files/command_line.h"
 #include "fuzz_input.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

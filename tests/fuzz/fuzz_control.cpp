@@ -1,4 +1,4 @@
-#include "desktop/control_file.h"
+#include "desktop/files/control_file.h"
 #include "fuzz_input.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

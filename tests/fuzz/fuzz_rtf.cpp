@@ -1,6 +1,6 @@
-#include "desktop/rtf_document.h"
-#include "desktop/table_grid.h"
-#include "desktop/text_bytes.h"
+#include "desktop/files/rtf_document.h"
+#include "desktop/files/table_grid.h"
+#include "desktop/files/text_bytes.h"
 #include "fuzz_input.h"
 
 namespace quendal {

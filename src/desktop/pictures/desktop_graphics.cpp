@@ -1,0 +1,57 @@
+#include "desktop/pictures/desktop_graphics.h"
+
+#include "desktop/pictures/desktop_picture.h"
+#include "desktop/windows/look.h"
+#include "host/log.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+namespace quendal {
+
+namespace {
+
+constexpr int kLargestSide = 8192; // px; a picture beyond it is taken for broken
+
+// `folder/x3/name` for `folder/name`.
+std::string twinName(const std::string& path) {
+    const std::size_t cut = path.find_last_of("/\\");
+    const std::size_t start = cut == std::string::npos ? 0 : cut + 1;
+    return path.substr(0, start) + "x3/" + path.substr(start);
+}
+
+QImage decode(const std::string& bytes) {
+    QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QBuffer buffer(&data);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    if (size.width() > kLargestSide || size.height() > kLargestSide) {
+        return {};
+    }
+    return reader.read();
+}
+
+} // namespace
+
+Color DesktopGraphics::SystemColor(int number) const {
+    return number == 15 ? look::kButtonColor : kBlack;
+}
+
+PicturePtr DesktopGraphics::LoadPicture(const std::string& path) {
+    const auto bytes = files_.read(path);
+    if (!bytes) {
+        logLine("picture missing: " + path);
+        return nullptr;
+    }
+    QImage image = decode(*bytes);
+    if (image.isNull()) {
+        logLine("picture broken: " + path);
+        return nullptr;
+    }
+    const std::string twin = twinName(path);
+    const QString twinFile =
+        files_.FileExists(twin) ? QString::fromStdString(files_.realName(twin)) : QString();
+    return std::make_shared<DesktopPicture>(std::move(image), twinFile);
+}
+
+} // namespace quendal
