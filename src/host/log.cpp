@@ -28,6 +28,8 @@ void logLine(std::string_view text) {
     }
 }
 
-LogSink exchangeLogSink(LogSink next) { return std::exchange(sink(), std::move(next)); }
+LogSink exchangeLogSink(LogSink next) {
+    return std::exchange(sink(), std::move(next));
+}
 
 } // namespace quendal

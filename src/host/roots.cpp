@@ -31,6 +31,8 @@ void clearRoots() {
     coreLibRoot = nullptr;
 }
 
-bool rootsInstalled() { return hostAppRoot != nullptr; }
+bool rootsInstalled() {
+    return hostAppRoot != nullptr;
+}
 
 } // namespace quendal

@@ -16,7 +16,8 @@ void VirtualClock::SleepMs(double milliseconds) {
 
 void VirtualClock::advanceTo(double seconds) {
     // Upwards, so that what is due at `seconds` is due after the move.
-    microseconds_ = std::max(microseconds_, static_cast<std::int64_t>(std::ceil(seconds * 1e6 - 1e-6)));
+    microseconds_ =
+        std::max(microseconds_, static_cast<std::int64_t>(std::ceil(seconds * 1e6 - 1e-6)));
 }
 
 } // namespace quendal

@@ -235,7 +235,7 @@ QImage faceOf(const AtomLook& look) {
     QImage image(120, 120, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
     QPainter painter(&image);
-    paintAtom(painter, image.rect(), look);
+    AtomFace().paint(painter, image.rect(), look);
     return image;
 }
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <numbers>
 
 namespace quendal {
@@ -92,15 +93,19 @@ void paintElectron(QPainter& painter, double phase, Half half) {
     painter.drawEllipse(at, 0.085, 0.085);
 }
 
-void paintOrbits(QPainter& painter, double turn, Half half) {
+void paintOrbits(QPainter& painter, Half half) {
     for (const double tilt : kTilts) {
         painter.save();
         painter.rotate(tilt);
         paintOrbit(painter, half);
         painter.restore();
     }
+}
+
+void paintElectrons(QPainter& painter, double turn, Half half) {
+    constexpr double kStart = 0.07;
     for (std::size_t i = 0; i < kTilts.size(); ++i) {
-        const double phase = turn + 0.07 + static_cast<double>(i) / kTilts.size();
+        const double phase = turn + kStart + static_cast<double>(i) / kTilts.size();
         painter.save();
         painter.rotate(kTilts[i]);
         paintElectron(painter, phase - std::floor(phase), half);
@@ -225,19 +230,8 @@ void paintDrop(QPainter& painter, QPointF at) {
     painter.drawPath(drop);
 }
 
-} // namespace
-
-void paintAtom(QPainter& painter, const QRectF& box, const AtomLook& look) {
-    const double radius = std::min(box.width(), box.height()) / 2;
-    if (radius <= 0) {
-        return;
-    }
+void paintFace(QPainter& painter, const AtomLook& look) {
     const Feature feature = featureOf(look.mood);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(box.center());
-    painter.scale(radius, radius);
-    paintOrbits(painter, look.turn, Half::Behind);
     paintHead(painter, feature);
     if (look.mood == 1 || look.mood == 2) {
         paintCheeks(painter);
@@ -252,8 +246,64 @@ void paintAtom(QPainter& painter, const QRectF& box, const AtomLook& look) {
     } else if (look.mood == 3) {
         paintDrop(painter, {0.26, 0.14});
     }
-    paintOrbits(painter, look.turn, Half::Before);
-    painter.restore();
+}
+
+// The face looks the same while its electrons turn.
+bool sameFace(const AtomLook& one, const AtomLook& other) {
+    return one.mood == other.mood && one.gaze == other.gaze && one.mouthOpen == other.mouthOpen &&
+           one.blink == other.blink;
+}
+
+void prepare(QPainter& painter, const QRectF& square) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(square.center());
+    painter.scale(square.width() / 2, square.height() / 2);
+}
+
+// `side` in pixels of the widget.
+QImage layer(double side, double ratio, const std::function<void(QPainter&)>& paint) {
+    const int pixels = static_cast<int>(std::ceil(side * ratio));
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    prepare(painter, QRectF(0, 0, side, side));
+    paint(painter);
+    return image;
+}
+
+} // namespace
+
+void AtomFace::paint(QPainter& painter, const QRectF& box, const AtomLook& look) {
+    const double side = std::min(box.width(), box.height());
+    const double ratio = painter.device()->devicePixelRatioF();
+    if (side < 1) {
+        return;
+    }
+    if (side != side_ || ratio != ratio_) {
+        side_ = side;
+        ratio_ = ratio;
+        behind_ = layer(side, ratio, [](QPainter& on) { paintOrbits(on, Half::Behind); });
+        before_ = layer(side, ratio, [](QPainter& on) { paintOrbits(on, Half::Before); });
+        face_ = QImage();
+    }
+    if (face_.isNull() || !sameFace(look, look_)) {
+        face_ = layer(side, ratio, [&look](QPainter& on) { paintFace(on, look); });
+        look_ = look;
+    }
+    QRectF square(0, 0, side, side);
+    square.moveCenter(box.center());
+    const auto electrons = [&](Half half) {
+        painter.save();
+        prepare(painter, square);
+        paintElectrons(painter, look.turn, half);
+        painter.restore();
+    };
+    painter.drawImage(square.topLeft(), behind_);
+    electrons(Half::Behind);
+    painter.drawImage(square.topLeft(), face_);
+    painter.drawImage(square.topLeft(), before_);
+    electrons(Half::Before);
 }
 
 void paintBubble(QPainter& painter, const QRectF& box, double scale) {

@@ -1,6 +1,7 @@
 // The mascot as a drawing: a friendly atom.
 #pragma once
 
+#include <QImage>
 #include <QPointF>
 #include <QString>
 
@@ -17,8 +18,20 @@ struct AtomLook {
     double turn = 0; // of the electrons, in whole turns
 };
 
-// Fills the largest square in the middle of `box`.
-void paintAtom(QPainter& painter, const QRectF& box, const AtomLook& look);
+// Paints the atom; what stays the same from beat to beat is kept as images.
+class AtomFace {
+  public:
+    // Fills the largest square in the middle of `box`.
+    void paint(QPainter& painter, const QRectF& box, const AtomLook& look);
+
+  private:
+    AtomLook look_; // of face_
+    QImage behind_; // orbits behind the face
+    QImage face_;
+    QImage before_;
+    double side_ = 0;
+    double ratio_ = 0;
+};
 
 inline constexpr double kBubbleTail = 14; // length of a bubble's tail, design px
 

@@ -89,16 +89,16 @@ class DrAtomPeer final : public PaintedPeer {
             face = QRectF(box.left(), box.bottom() - cut, cut, cut);
             paintSpeech(painter, box.adjusted(cut * 0.92, 0, 0, -cut * 0.2));
         }
-        paintAtom(painter, face,
-                  {.mood = atom_.Mood(),
-                   .gaze = gaze_,
-                   .mouthOpen = atom_.mouthopen(),
-                   .blink = blinking(),
-                   .turn = turn_});
+        face_.paint(painter, face,
+                    {.mood = atom_.Mood(),
+                     .gaze = gaze_,
+                     .mouthOpen = atom_.mouthopen(),
+                     .blink = blinking(),
+                     .turn = turn_});
     }
 
   private:
-    static constexpr int kBeat = 40; // ms
+    static constexpr int kBeat = 50; // ms
     static constexpr double kBlinkEvery = 4.2;
     static constexpr double kBlinkFor = 0.13; // s
 
@@ -150,6 +150,7 @@ class DrAtomPeer final : public PaintedPeer {
     QTimer timer_;
     QElapsedTimer clock_;
     FittedText speech_;
+    AtomFace face_;
     QPointF gaze_{0, 0};
     double turn_ = 0;
     bool blinked_ = false;

@@ -30,9 +30,13 @@ std::string trimmedLower(std::string_view text) {
 
 } // namespace
 
-SessionState& session() { return *holder(); }
+SessionState& session() {
+    return *holder();
+}
 
-void resetSession() { holder() = std::make_unique<SessionState>(); }
+void resetSession() {
+    holder() = std::make_unique<SessionState>();
+}
 
 void SessionState::describe(FieldTable& table) const {
     table.add("SessionConcentration", SessionConcentration);

@@ -32,8 +32,8 @@ struct SessionState {
     bool SessionCalcTerm = false; // the popup calculator of the steps offers formula lines
     // The same for the direct input; nothing sets it, so those lines are never offered.
     bool SessionCalcTermDirect = false;
-    bool SessionBusy = false;    // reagent is being dosed: no second dosing, no calculation
-    bool SessionRestart = false; // back to the start dialog is wanted: every loop ends early
+    bool SessionBusy = false;         // reagent is being dosed: no second dosing, no calculation
+    bool SessionRestart = false;      // back to the start dialog is wanted: every loop ends early
     Color ParticleBackColor = kBlack; // colour of the liquid; particles fade into it
     bool PlainChloride = false;       // Cl- shows no sign in the beaker
 
