@@ -120,6 +120,7 @@ int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     switch (hint) {
     case SH_UnderlineShortcut:
         return 1;
+    case SH_ScrollBar_ContextMenu: // would run a loop of its own past the program's pump
     case SH_ComboBox_Popup:
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:
