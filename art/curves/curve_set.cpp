@@ -1,6 +1,9 @@
 #include "curve_set.h"
 
+#include "curve_notes.h"
+#include "silver_chloride.h"
 #include "strong_acid.h"
+#include "weak_acid.h"
 
 #include <array>
 #include <string>
@@ -9,59 +12,74 @@ namespace quendal::curves {
 
 namespace {
 
-struct StrongAcidFile {
-    const char* name;
+struct Sample {
+    const char* digits;   // in the file's name
     double concentration; // mol/L
-    const char* concentrationText;
+    const char* text;
 };
 
-constexpr std::array kStrongAcidFiles{
-    StrongAcidFile{.name = "phstark06.crv", .concentration = 0.6, .concentrationText = "0,6"},
-    StrongAcidFile{.name = "phstark08.crv", .concentration = 0.8, .concentrationText = "0,8"},
-    StrongAcidFile{.name = "phstark10.crv", .concentration = 1.0, .concentrationText = "1,0"},
-    StrongAcidFile{.name = "phstark12.crv", .concentration = 1.2, .concentrationText = "1,2"},
-    StrongAcidFile{.name = "phstark14.crv", .concentration = 1.4, .concentrationText = "1,4"},
+constexpr std::array kSamples{
+    Sample{.digits = "06", .concentration = 0.6, .text = "0,6"},
+    Sample{.digits = "08", .concentration = 0.8, .text = "0,8"},
+    Sample{.digits = "10", .concentration = 1.0, .text = "1,0"},
+    Sample{.digits = "12", .concentration = 1.2, .text = "1,2"},
+    Sample{.digits = "14", .concentration = 1.4, .text = "1,4"},
 };
 
-constexpr StrongAcidFile kStandardFile{
-    .name = "ph.crv", .concentration = 1.0, .concentrationText = "1,0"};
+constexpr Sample kStandardSample{.digits = "10", .concentration = 1.0, .text = "1,0"};
 
-std::vector<std::string> strongAcidNotes(const std::string& concentrationText) {
-    return {
-        "Titrationskurve: 10 mL Salzsäure, c(HCl) = " + concentrationText +
-            " mol/L, mit Natronlauge, c(NaOH) = 1 mol/L, bei 25 °C",
-        "",
-        "Diese Werte sind BERECHNET (Gleichgewichtsmodell). Sie wurden NICHT im Labor gemessen.",
-        "Modell: Ladungsbilanz c(H+) + c(Na+) = c(OH-) + c(Cl-), nach pH durch Intervallhalbierung",
-        "  gelöst; pH = -lg a(H+); HCl und NaOH vollständig dissoziiert; Volumina additiv.",
-        "Aktivitätskoeffizienten nach Davies: lg γ = -A z² (√I / (1 + √I) - 0,3 I),",
-        "  Ionenstärke I aus allen Ionen, wiederholt, bis sie sich nicht mehr ändert.",
-        "Konstanten (25 °C): pKw = 13,995 (IAPWS 2007); A = 0,509 L^½ mol^-½ (Stumm, Morgan 1996);",
-        "  0,3 L/mol (Davies 1962).",
-        "",
-        "Eine eigene Messung lässt sich im selben Format daneben- oder an diese Stelle legen:",
-        "  Zeilen mit # sind Anmerkungen, dann eine Zeile mit den Namen der Spalten, dann je Punkt",
-        "  eine Zeile; Spalten durch ; getrennt; Dezimalpunkt oder Dezimalkomma.",
-        "",
-    };
-}
+// A titration that is tabled for every sample.
+struct Family {
+    const char* stem;
+    const char* reagent; // the x column
+    const char* series;
+    const char* yTitle;
+    int decimals; // two neighbouring points differ in the last one
+    double (*value)(const Titration&, double addedMillilitres);
+    std::vector<std::string> (*notes)(const std::string& concentration);
+};
 
-CurveFile strongAcidFile(const StrongAcidFile& row) {
-    const Titration titration{.sampleConcentration = row.concentration};
-    CurveColumn volume{.name = "V(NaOH)", .decimals = 1, .values = burettePoints()};
-    CurveColumn ph{.name = "pH-Wert", .decimals = 4, .values = {}};
+constexpr Family kStrongAcid{.stem = "phstark",
+                             .reagent = "V(NaOH)",
+                             .series = "pH-Wert",
+                             .yTitle = "pH-Wert",
+                             .decimals = 4,
+                             .value = strongAcidPh,
+                             .notes = strongAcidNotes};
+
+constexpr Family kWeakAcid{.stem = "phschwach",
+                           .reagent = "V(NaOH)",
+                           .series = "pH-Wert",
+                           .yTitle = "pH-Wert",
+                           .decimals = 4,
+                           .value = weakAcidPh,
+                           .notes = weakAcidNotes};
+
+constexpr Family kSilver{.stem = "potsilber",
+                         .reagent = "V(AgNO3)",
+                         .series = "Potential",
+                         .yTitle = "Potential E in V",
+                         .decimals = 5,
+                         .value = silverPotential,
+                         .notes = silverNotes};
+
+CurveFile curveFile(const Family& family, const Sample& sample) {
+    const Titration titration{.sampleConcentration = sample.concentration};
+    CurveColumn volume{.name = family.reagent, .decimals = 1, .values = burettePoints()};
+    CurveColumn series{.name = family.series, .decimals = family.decimals, .values = {}};
     for (const double added : volume.values) {
-        ph.values.push_back(strongAcidPh(titration, added));
+        series.values.push_back(family.value(titration, added));
     }
-    return {.name = row.name,
-            .notes = strongAcidNotes(row.concentrationText),
-            .xTitle = "V(NaOH) in mL",
-            .yTitle = "pH-Wert",
-            .columns = {std::move(volume), std::move(ph)}};
+    return {.name = std::string(family.stem) + sample.digits + ".crv",
+            .notes = family.notes(sample.text),
+            .xTitle = std::string(family.reagent) + " in mL",
+            .yTitle = family.yTitle,
+            .columns = {std::move(volume), std::move(series)}};
 }
 
 CurveFile standardFile() {
-    CurveFile file = strongAcidFile(kStandardFile);
+    CurveFile file = curveFile(kStrongAcid, kStandardSample);
+    file.name = "ph.crv";
     file.notes.insert(file.notes.begin(),
                       "Standard-pH-Kurve: tritt ein, wenn zu einer Aufgabe die eigene Kurve fehlt."
                       " Sie gilt für 1,0 mol/L.");
@@ -72,8 +90,10 @@ CurveFile standardFile() {
 
 std::vector<CurveFile> allCurveFiles() {
     std::vector<CurveFile> files;
-    for (const StrongAcidFile& row : kStrongAcidFiles) {
-        files.push_back(strongAcidFile(row));
+    for (const Family& family : {kStrongAcid, kWeakAcid, kSilver}) {
+        for (const Sample& sample : kSamples) {
+            files.push_back(curveFile(family, sample));
+        }
     }
     files.push_back(standardFile());
     return files;
