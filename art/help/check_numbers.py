@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
-"""Works out every formula of a help source again: check_numbers.py SOURCE.txt.
+"""Works out the numbers of a help source again: check_numbers.py SOURCE.txt.
 
 In each formula line ("$ ...") all parts that are plain arithmetic have to agree: exactly behind
-"=", to the last place shown behind "≈". Prints what is wrong; the exit code is 1 then.
+"=", to the last place shown behind "≈", digit by digit before "…". Every other number with decimals
+has to stand in such a line too. Lines that aren't printed help with that:
+"//$ ..." is a formula for a number that is told without its calculation, "//= ..." lists numbers
+that nothing can be calculated for. Prints what is wrong; the exit code is 1 then.
 """
 
 import math
@@ -10,29 +13,40 @@ import re
 import sys
 from pathlib import Path
 
-UNITS = re.compile(r"mol/L|mmol|mol|mL|L|Punkte")
+UNITS = re.compile(r"mol\^\{2\}/L\^\{2\}|mol/L|mmol|mol|mL|L|V|Punkte")
 PLAIN = re.compile(r"^(?:log10|\*\*|[-+*/().\d\s])+$")
+FORMULA = re.compile(r"(?://)?\$ (.*)")
+GIVEN = "//= "
+DECIMAL = re.compile(r"(?<![\d.,])\d+[.,]\d+(?![\d]|[.,]\d)")
+THOUSANDS = re.compile(r"[1-9]\d{0,2}(?:\.\d{3})+")
+POWER_OF_TEN = re.compile(r"10\^\{(−?\d+)\}")
 
 
 def arithmetic(part):
     """The value of a part that holds numbers only, else None."""
     text = re.sub(r"(?<!\\)[*_]", "", part)
+    text = UNITS.sub("", text).rstrip(" …")
     text = re.sub(r"\^\{([^}]*)\}", r"**(\1)", text)
-    text = UNITS.sub("", text).replace(",", ".").replace("−", "-").replace("·", "*")
-    text = text.replace("log", "log10")
+    text = text.replace(",", ".").replace("−", "-").replace("·", "*").replace("log", "log10")
     if not PLAIN.match(text.strip()):
         return None
     return eval(text.strip(), {"__builtins__": {}}, {"log10": math.log10})
 
 
-def places(part):
-    """Decimals shown by a single number."""
-    found = re.search(r",(\d+)", part)
-    return len(found[1]) if found else 0
+def last_place(part):
+    """What 1 in the last place shown by a single number is worth."""
+    decimals = re.search(r",(\d+)", part)
+    power = POWER_OF_TEN.search(part)
+    exponent = int(power[1].replace("−", "-")) if power else 0
+    return 10.0 ** (exponent - (len(decimals[1]) if decimals else 0))
 
 
 def agrees(sign, earlier, later, part):
-    tolerance = 0.5 * 10 ** -places(part) if sign == "≈" else 1e-9
+    if "…" in part:
+        return 0 <= abs(earlier) - abs(later) < last_place(part)
+    # Beside 1 the rounding of doubles, beside a small number its own size counts.
+    exact = 1e-9 * min(1.0, abs(earlier) or 1.0)
+    tolerance = 0.5 * last_place(part) if sign == "≈" else exact
     return abs(earlier - later) <= tolerance * (1 + 1e-9)
 
 
@@ -50,10 +64,32 @@ def faults(formula):
     return checked, messages
 
 
+def decimals_of(text):
+    found = (number for number in DECIMAL.findall(text) if not THOUSANDS.fullmatch(number))
+    return [number.replace(".", ",") for number in found]
+
+
+def unproved(lines):
+    """Messages about the numbers that no checked formula and no list accounts for."""
+    proved, open_lines = set(), []
+    for line in lines:
+        formula = FORMULA.match(line)
+        if line.startswith(GIVEN) or (formula and faults(formula[1])[0]):
+            proved.update(decimals_of(line))
+        elif formula or not line.startswith("//"):
+            open_lines.append(line)
+    return [
+        "%s: nothing works it out in: %s" % (number, line)
+        for line in open_lines
+        for number in decimals_of(line)
+        if number not in proved
+    ]
+
+
 def main(arguments):
     lines = Path(arguments[1]).read_text(encoding="utf-8").split("\n")
-    results = [faults(line[2:]) for line in lines if line.startswith("$ ")]
-    messages = [message for _, found in results for message in found]
+    results = [faults(found[1]) for found in map(FORMULA.match, lines) if found]
+    messages = [message for _, found in results for message in found] + unproved(lines)
     print("\n".join(messages + ["%d results checked" % sum(count for count, _ in results)]))
     return 1 if messages else 0
 
