@@ -1,10 +1,11 @@
 #!/bin/sh
-# Makes all pictures in data/ from the sources in art/.
+# Makes all pictures from the sources in art/. Usage: make_pictures.sh [FOLDER], by default data/.
 # Needs: python3, rsvg-convert (librsvg2-bin), convert (imagemagick), the Liberation fonts.
 set -eu
 
 art=$(cd "$(dirname "$0")" && pwd)
-data=$art/../data
+icons=$art/../data/icons
+data=${1:-$art/../data}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 ground='rgb(244,247,247)'
@@ -30,6 +31,23 @@ clear_gif() {
 # full_gif PNG COLOUR GIF
 full_gif() { convert "$1" -background "$2" -alpha remove -alpha off +dither -colors 256 -strip "$3"; }
 
+# The two halves of a picture that is laid over the screen bit by bit: the mask is white where the screen
+# stays and black elsewhere, the picture is wholly black where the mask is white.
+# over_screen SVG
+over_screen() {
+    name=$(basename "$1" .svg)
+    for zoom in 1 3; do
+        folder=$data
+        if [ $zoom = 3 ]; then folder=$data/x3; fi
+        render "$1" $zoom "$work/picture.png"
+        convert "$work/picture.png" -alpha extract -threshold 50% "$work/painted.png"
+        convert "$work/painted.png" -negate -strip "$folder/${name}_mask.gif"
+        convert "$work/picture.png" -background black -alpha remove -alpha off +dither -colors 255 \
+            "$work/painted.png" -compose multiply -composite -strip "$folder/$name.gif"
+    done
+    echo "  ${name}_mask.gif, $name.gif"
+}
+
 # both_sizes SVG COLOUR (or "clear")
 both_sizes() {
     name=$(basename "$1" .svg)
@@ -54,14 +72,23 @@ echo "Burette"
 python3 "$art/burette.py" "$work"
 for file in "$work"/bürette*.svg; do both_sizes "$file" clear; done
 
+echo "Magnifying glass"
+python3 "$art/magnifier.py" "$work"
+for file in "$work"/magnify*.svg; do both_sizes "$file" clear; done
+over_screen "$work/lens.svg"
+
 echo "Start dialog and splash"
 python3 "$art/banner.py" "$work"
 for file in header splash; do both_sizes "$work/$file.svg" "$ground"; done
+
+echo "Silver titration"
+python3 "$art/silver_start.py" "$work"
+both_sizes "$work/silver_start.svg" "$ground"
 
 echo "Result dialog"
 python3 "$art/results.py" "$work"
 for file in win win_small bad; do both_sizes "$work/$file.svg" white; done
 
 echo "Program icon"
-rsvg-convert --width 256 --height 256 --format png --output "$data/icons/quendal.png" "$data/icons/quendal.svg"
+rsvg-convert --width 256 --height 256 --format png --output "$data/icons/quendal.png" "$icons/quendal.svg"
 echo "  quendal.png"

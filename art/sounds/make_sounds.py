@@ -15,6 +15,7 @@ from pathlib import Path
 RATE = 44100  # samples per second
 PEAK = 10 ** (-6 / 20)  # full scale is 1
 SOFT_PEAK = 10 ** (-9 / 20)
+BACKGROUND_PEAK = 10 ** (-20 / 20)  # for sounds that return every second or so
 FADE_IN = 0.002  # seconds, against a click at the start
 FADE_OUT = 0.03
 
@@ -193,6 +194,22 @@ def signal_right():
     return room(track.samples, 0.2)
 
 
+def collide():
+    """Two particles meet: a soft, dry tick of two small wooden balls."""
+    track = Track(0.14)
+    track.note(0.0, "A4", 0.12, MARIMBA, attack=0.003, decay=55)
+    track.note(0.004, "E5", 0.1, HUM, attack=0.003, decay=70, level=0.5)
+    return track.samples
+
+
+def leave():
+    """A particle goes its own way: a small bell, one light step up."""
+    track = Track(0.36)
+    track.note(0.0, "E6", 0.2, HUM, attack=0.006, decay=22, level=0.5)
+    track.note(0.045, "A6", 0.31, HUM, attack=0.006, decay=15, level=0.8)
+    return track.samples
+
+
 SOUNDS = {
     "result_good.wav": (result_good, PEAK),
     "clapping.wav": (clapping, PEAK),
@@ -202,6 +219,8 @@ SOUNDS = {
     "result_bad.wav": (result_bad, PEAK),
     "signal1.wav": (signal_wrong, SOFT_PEAK),
     "signal2.wav": (signal_right, PEAK),
+    "collide.wav": (collide, BACKGROUND_PEAK),
+    "ex.wav": (leave, BACKGROUND_PEAK),
 }
 
 

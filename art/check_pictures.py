@@ -1,0 +1,133 @@
+#!/usr/bin/env python3
+"""Checks what the program relies on in the pictures: check_pictures.py DATA_FOLDER
+
+Every picture has a twin three times its size; the magnifying glass over the screen keeps to its places.
+Only the standard library is used.
+"""
+
+import sys
+from pathlib import Path
+
+# In px of the picture: the scene lies inside the open part, the glass keeps inside its frame.
+LENS_SIZE, SLIDE_SIZE = (592, 444), (556, 264)
+OPEN_PART = (142, 95, 423, 345)  # with a pixel to spare for rounding
+FRAME = (85, 20, 480, 420)
+HANDLE_FROM = (400, 320)  # right of and below it lies the handle
+
+
+def size_of(data):
+    return int.from_bytes(data[6:8], "little"), int.from_bytes(data[8:10], "little")
+
+
+def blocks(data, at):
+    """The joined sub-blocks from `at` on, and where they end."""
+    joined = bytearray()
+    while data[at]:
+        joined += data[at + 1:at + 1 + data[at]]
+        at += 1 + data[at]
+    return bytes(joined), at + 1
+
+
+def unpacked(data, bits):
+    """The colour numbers of an image, packed by LZW with codes of growing width."""
+    clear = 1 << bits
+    table, width, last, out = [], 0, None, bytearray()
+    held = count = 0
+    for byte in data:
+        held |= byte << count
+        count += 8
+        while count >= (width or bits + 1):
+            width = width or bits + 1
+            code = held & ((1 << width) - 1)
+            held >>= width
+            count -= width
+            if code == clear:
+                table = [bytes([i]) for i in range(clear)] + [b"", b""]
+                width, last = bits + 1, None
+            elif code == clear + 1:
+                return bytes(out)
+            else:
+                entry = table[code] if code < len(table) else last + last[:1]
+                out += entry
+                if last is not None and len(table) < 4096:
+                    table.append(last + entry[:1])
+                last = entry
+                if len(table) == 1 << width and width < 12:
+                    width += 1
+    return bytes(out)
+
+
+def pixels(path):
+    """(width, height, colours row by row, transparent number or None) of a GIF with one whole image."""
+    data = path.read_bytes()
+    palette_size = 2 << (data[10] & 7) if data[10] & 0x80 else 0
+    palette = data[13:13 + 3 * palette_size]
+    at, clear = 13 + len(palette), None
+    while data[at] == 0x21:
+        body, end = blocks(data, at + 2)
+        if data[at + 1] == 0xF9 and body[0] & 1:
+            clear = body[3]
+        at = end
+    packed, _ = blocks(data, at + 11)
+    numbers = unpacked(packed, data[at + 10])
+    width, height = size_of(data)
+    assert data[at] == 0x2C and not data[at + 9] and len(numbers) == width * height, path
+    return width, height, [tuple(palette[3 * n:3 * n + 3]) for n in numbers], [n == clear for n in numbers]
+
+
+def check_twins(folder):
+    names = {p.name for p in folder.glob("*.gif")}
+    assert names and names == {p.name for p in (folder / "x3").glob("*.gif")}, "pictures without twins"
+    for name in names:
+        width, height = size_of((folder / name).read_bytes())
+        assert size_of((folder / "x3" / name).read_bytes()) == (3 * width, 3 * height), name
+
+
+def check_lens(folder, zoom):
+    """The mask is white or black, the picture is black where the mask is white."""
+    width, height, mask, _ = pixels(folder / "lens_mask.gif")
+    _, _, glass, _ = pixels(folder / "lens.gif")
+    assert (width, height) == tuple(zoom * side for side in LENS_SIZE)
+    white, black = (255, 255, 255), (0, 0, 0)
+    assert set(mask) == {white, black}, "mask has other colours"
+    assert all(g == black for m, g in zip(mask, glass) if m == white), "glass reaches over its mask"
+    painted = sum(m == black for m in mask)
+    assert 0.05 < painted / len(mask) < 0.25, "glass paints too much or too little"
+    left, top, right, bottom = (zoom * side for side in OPEN_PART)
+    for y in range(top, bottom):
+        assert set(mask[y * width + left:y * width + right]) == {white}, "open part is covered"
+    left, top, right, bottom = (zoom * side for side in FRAME)
+    for i, m in enumerate(mask):
+        x, y = i % width, i // width
+        handle = x >= zoom * HANDLE_FROM[0] and y >= zoom * HANDLE_FROM[1]
+        assert m == white or handle or (left <= x < right and top <= y < bottom), f"rim outside its frame at {x},{y}"
+
+
+def check_slide(folder):
+    files = sorted(folder.glob("magnify*.gif"))
+    assert len(files) == 6, files
+    for path in files:
+        width, height, _, clear = pixels(path)
+        assert (width, height) == SLIDE_SIZE, path
+        assert 0.5 < sum(clear) / len(clear) < 0.9, f"{path}: the glass isn't clear"
+        assert clear[0] and clear[width - 1], f"{path}: its corners aren't clear"
+
+
+def main(arguments):
+    if len(arguments) != 2:
+        print("usage: check_pictures.py DATA_FOLDER", file=sys.stderr)
+        return 2
+    folder = Path(arguments[1])
+    try:
+        check_twins(folder)
+        check_lens(folder, 1)
+        check_lens(folder / "x3", 3)
+        check_slide(folder)
+    except AssertionError as error:
+        print(f"wrong: {error}", file=sys.stderr)
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv))
