@@ -14,8 +14,6 @@ class ParticleScene {
     virtual const cls_Molecules& drops() const = 0;
     // A dosing runs: from the click to the last drop and the glass at rest.
     virtual bool dosing() const = 0;
-    // The model of the form reads the particles, so that it matters when they have all reacted.
-    virtual bool countsParticles() const = 0;
     // Series of the learner's calculated points.
     virtual int learnerSeriesCount() const = 0;
     // `number` from 1; null while there is no such series.

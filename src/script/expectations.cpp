@@ -131,7 +131,7 @@ bool isSettled(const Stage& stage) {
     if (scene == nullptr) {
         return true;
     }
-    const bool pairs = scene->countsParticles() && scene->beaker().hasPairThatCanReact();
+    const bool pairs = scene->beaker().hasPairThatCanReact();
     return !scene->dosing() && scene->drops().COUNT() == 0 && !pairs;
 }
 

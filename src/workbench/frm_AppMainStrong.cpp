@@ -20,9 +20,13 @@ const WorkbenchVariant& strongVariant() {
         .helpFile = "strong.rtf",
         .readingName = "pH Wert:",
         .readingUnit = "",
+        .readingDigits = {.direct = 2, .guided = 2},
         .calculationTitle = "pH-Wert ausrechnen",
+        .answerName = "pH =",
         .wrongDirect = "Der von Dir errechnete pH-Wert ist leider falsch! Soll ich Dir beim "
                        "Errechnen Schritt für Schritt helfen?",
+        .compareTitle = "",
+        .volumeNames = {"VµV(S)     = ", "VµZ(OH-) =", "cµV(S) =", "cµZ(OH-) = 1 mol/L"},
         .task = {.sampleBefore = "Klicke auf die            Pipette, um 10 mL Salzsäure  (c = ",
                  .sampleAfter = " mol/L) in das Becherglas fließen zu lassen",
                  .reagent = "Klick auf                               , um mit jedem Klick         "
@@ -58,8 +62,7 @@ const WorkbenchVariant& strongVariant() {
         .countingKinds = {kHydronium, kHydroxide},
         .buretteCountingKind = kHydroxide,
         .directDigits = 2,
-        .plainChloride = true,
-        .countsParticles = false};
+        .chloride = ChlorideSign::PlainWhileOpen};
     return variant;
 }
 
@@ -69,12 +72,15 @@ frm_AppMainStrong::frm_AppMainStrong() : Workbench(strongVariant()), guidance_(*
     design();
 }
 
-Workbench::Reading frm_AppMainStrong::presentReading() const {
+std::optional<Workbench::Reading> frm_AppMainStrong::presentReading() {
+    if (vVol == 0) {
+        return std::nullopt;
+    }
     const PointValues point =
         strongAcidPoint(session().SessionConcentration, hGetVol(1), hGetVol(-1));
     const NumberService& numbers = CoreLib().NumberService;
-    return {.shown = numbers.Parse(numbers.Format(point.reading, 3)),
-            .liquid = liquidColor(point.reading)};
+    return Reading{.shown = numbers.Parse(numbers.Format(point.reading, 3)),
+                   .liquid = liquidColor(point.reading)};
 }
 
 } // namespace quendal

@@ -11,7 +11,7 @@ class frm_AppMainStrong final : public Workbench {
     frm_AppMainStrong();
 
   protected:
-    Reading presentReading() const override;
+    std::optional<Reading> presentReading() override;
     GuidedCalculation& guidance() override { return guidance_; }
 
   private:

@@ -142,13 +142,7 @@ std::vector<std::string> StrongGuidance::presetLines(int index) const {
 }
 
 std::string StrongGuidance::resultText(int index, double value) const {
-    const std::string text = CoreLib().NumberService.text(value);
-    const auto exponent = text.find('E');
-    if (index != 10 || exponent == std::string::npos) {
-        return GuidedCalculation::resultText(index, value);
-    }
-    constexpr std::size_t kMantissa = 5; // characters kept
-    return text.substr(0, std::min(exponent, kMantissa)) + "*10^" + text.substr(exponent + 1);
+    return index == 10 ? powerText(value) : GuidedCalculation::resultText(index, value);
 }
 
 } // namespace quendal

@@ -26,7 +26,7 @@ bool upToEquivalence(const LayoutState& s) {
     return !s.behindEquivalence;
 }
 
-constexpr StepRow kSteps[] = {
+const std::vector<StepRow> kSteps = {
     {.step = 1,
      .check = Check::Exact,
      .expected = [](const PointValues& p) { return p.concentration; }},
@@ -76,7 +76,7 @@ constexpr StepRow kSteps[] = {
      .fill = Fill::Picture2},
 };
 
-constexpr ShownRow kShown[] = {
+const std::vector<ShownRow> kShown = {
     // 1. n of the acid
     {Part::Heading, 0, 1},
     {Part::Heading, 0, 3, withoutAcid},
@@ -150,12 +150,16 @@ constexpr RungRow kRungs[] = {
 } // namespace
 
 const GuidanceTables& strongTables() {
+    static constexpr int kCalculatorSteps[] = {10, 11, 12};
     static const GuidanceTables tables{
         .lastStep = 12,
         .choiceStep = 7,
         .steps = kSteps,
         .shown = kShown,
         .rungs = kRungs,
+        .calculatorSteps = kCalculatorSteps,
+        .reminder = "Das ist nicht richtig!\r\nÜberprüfe Deine Eingaben!\r\n"
+                    "Beachte die Informationen rechts an der Seite!",
         .solveQuestion = "Das ist leider immer noch falsch! Soll ich Dir die Zahlen vorgeben?",
         .solveChoiceQuestion =
             "Das ist leider immer noch falsch! Soll ich für dich das Richtige anklicken?"};

@@ -1,6 +1,8 @@
 // What a workbench form differs in from the others, as data.
 #pragma once
 
+#include <array>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -30,10 +32,22 @@ struct BalanceLine {
     Balance balance = Balance::Counted;
 };
 
-// The pair of particles that falls for one mL (burette) or one mmol (pipette).
+// The pair of particles that falls for one mL of reagent.
 struct DropPair {
     int first;
     int second;
+};
+
+// What the form does with the sign of Cl- in the beaker; the setting outlives a form.
+enum class ChlorideSign { AsItStands, PlainWhileOpen, PlainFromNow };
+
+// Whether there is something to calculate before the first mL of reagent.
+enum class FirstPoint { SampleAlone, AfterReagent };
+
+// Decimals with which a finished point is shown as the reading; none: the reading isn't touched.
+struct ReadingDigits {
+    std::optional<int> direct; // after a direct answer
+    int guided = 2;            // at the end of a guided calculation
 };
 
 struct TaskTexts {
@@ -51,20 +65,25 @@ struct WorkbenchVariant {
     std::string_view curveStem; // "phstark": the concentration and ".crv" follow
     std::string_view seriesName;
     std::string_view helpFile;
-    std::string_view readingName;      // term
-    std::string_view readingUnit;      // behind the reading, with its blank
-    std::string_view calculationTitle; // of both calculation frames
-    std::string_view wrongDirect;      // question after a wrong direct answer
+    std::string_view readingName; // term
+    std::string_view readingUnit; // behind the reading, with its blank
+    ReadingDigits readingDigits;
+    std::string_view calculationTitle;           // of both calculation frames
+    std::string_view answerName;                 // beside the direct input, term
+    std::string_view wrongDirect;                // question after a wrong direct answer
+    std::string_view compareTitle;               // of the comparison; empty: as the dialog has it
+    std::array<std::string_view, 4> volumeNames; // sample, reagent, c of the sample, of the reagent
     TaskTexts task;
     std::vector<BalanceLine> species;
-    DropPair pipette; // in the order of falling
-    DropPair burette; // first at x - 2, second at x + 2
+    std::vector<int> pipette; // kinds that fall for one mmol, in this order
+    DropPair burette;         // first at x - 2, second at x + 2
     // Kinds of which each landed drop counts one mL; the others ride along.
     std::vector<int> countingKinds;
     int buretteCountingKind; // the one of them that the burette makes
     int directDigits;        // decimals that count in the direct answer
-    bool plainChloride;      // Cl- shows no sign in the beaker
-    bool countsParticles;    // the model reads the particles, so reactions must have ended
+    ChlorideSign chloride = ChlorideSign::AsItStands;
+    FirstPoint firstPoint = FirstPoint::SampleAlone;
+    bool countsParticles = false; // the model reads the particles, so reactions must have ended
 };
 
 } // namespace quendal

@@ -30,6 +30,7 @@ namespace quendal {
 namespace {
 
 constexpr double kLastPoint = 20.0; // mL of reagent that end a task
+constexpr int kSampleMl = 10;       // mL in the beaker before the first reagent
 constexpr int kBlackText = 0;
 constexpr int kGreyText = 8;
 constexpr const char* kStepDue = "Ico\\16\\Abstract\\Arrows\\Black Compact Right.ico";
@@ -76,7 +77,11 @@ void Workbench::hookEvents() {
         button.onClick = [this, index] { but_Add_Click(index); };
     });
     but_CalcDone.onClick = [this] { but_CalcDone_Click(); };
-    but_HelpCalc.onClick = [this] { guidance().but_HelpCalc_Click(); };
+    but_HelpCalc.onClick = [this] {
+        if (!occupied_) {
+            guidance().but_HelpCalc_Click();
+        }
+    };
     txt_Ph.onKey = [this](Key key) {
         if (key == Key::Enter) {
             but_CalcDone_Click();
@@ -97,12 +102,17 @@ void Workbench::showHelp() {
 }
 
 void Workbench::but_phCompare_Click() {
+    if (!variant_.compareTitle.empty()) {
+        dialogphCompare().setCaption(std::string(variant_.compareTitle));
+    }
     CoreLib().Windows.ShowModal(dialogphCompare());
 }
 
 void Workbench::Form_Load() {
     vStartTime = CoreLib().Clock.Now();
-    session().PlainChloride = variant_.plainChloride;
+    if (variant_.chloride != ChlorideSign::AsItStands) {
+        session().PlainChloride = true;
+    }
     vLastVol = -1.0;
     session().ParticleBackColor = kPlainLiquid;
     openCurve();
@@ -233,7 +243,9 @@ bool Workbench::Form_QueryUnload(UnloadReason reason) {
 }
 
 void Workbench::Form_Unload() {
-    session().PlainChloride = false;
+    if (variant_.chloride == ChlorideSign::PlainWhileOpen) {
+        session().PlainChloride = false;
+    }
 }
 
 bool Workbench::Form_KeyDown(Key key) {
@@ -256,6 +268,10 @@ void Workbench::but_Calc_Click() {
     if (!settleBeaker()) {
         return;
     }
+    if (variant_.firstPoint == FirstPoint::AfterReagent && vVol == kSampleMl) {
+        but_Add_Click(1); // nothing to calculate yet: the click is taken for the first mL
+        return;
+    }
     if (vDemo) {
         guidance().but_HelpCalc_Click();
     } else if (!guidance().frm_Calc.visible() && !frm_CalcDirect.visible()) {
@@ -266,7 +282,10 @@ void Workbench::but_Calc_Click() {
 }
 
 void Workbench::but_CalcDone_Click() {
-    if (hUnequal(txt_Ph.text(), vPhNow, variant_.directDigits)) {
+    if (occupied_) {
+        return; // a wrong answer would start the tutor in the middle of it
+    }
+    if (hUnequal(txt_Ph.text(), vPhNow, variant_.directDigits) || !answerable()) {
         HostApp().SoundBank.Signal(1);
         ++vWrong;
         showScoreOfErrors();
@@ -279,7 +298,19 @@ void Workbench::but_CalcDone_Click() {
     }
     HostApp().SoundBank.Signal(2);
     frm_CalcDirect.setVisible(false);
+    if (const auto digits = variant_.readingDigits.direct) {
+        showFinished(vPhNow, *digits);
+    }
     hPointDone(vPhNow);
+}
+
+void Workbench::showGuidedReading(double reading) {
+    showFinished(reading, variant_.readingDigits.guided);
+}
+
+void Workbench::showFinished(double reading, int digits) {
+    lab_pH.setText(CoreLib().NumberService.Format(reading, digits) +
+                   std::string(variant_.readingUnit));
 }
 
 bool Workbench::hUnequal(const std::string& value, double target, int digits) {
@@ -298,10 +329,12 @@ bool Workbench::hUnequal(const std::string& value, double target, int digits) {
     return true;
 }
 
-void Workbench::countWrongAnswer() {
+void Workbench::countWrongAnswer(bool reported) {
     ++vWrong;
     showScoreOfErrors();
-    reportProgress();
+    if (reported) {
+        reportProgress();
+    }
     HostApp().SoundBank.Signal(1);
 }
 
@@ -317,7 +350,6 @@ void Workbench::hPointDone(double reading) {
     ChartSeries& series = *session().SessionMySeries;
     series.Data.Add(titrantMl(), reading);
     session().SessionChartView->Redraw(0);
-    lab_pH.setText(CoreLib().NumberService.Format(reading, 2) + std::string(variant_.readingUnit));
     if (vDemo) {
         return;
     }

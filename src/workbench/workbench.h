@@ -57,15 +57,18 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     bool hUnequal(const std::string& value, double target, int digits);
     // Records a finished point and, behind the last one, opens the result.
     void hPointDone(double reading);
-    // A wrong answer: counters, label, report, sound.
-    void countWrongAnswer();
+    // A wrong answer: counters, label, report where the form makes one, sound.
+    void countWrongAnswer(bool reported);
+    // The reading of a finished point.
+    void showFinished(double reading, int digits);
+    // At the end of a guided calculation.
+    void showGuidedReading(double reading);
     void reportProgress() const;
 
     // ParticleScene
     const cls_Molecules& beaker() const override { return vMolecules; }
     const cls_Molecules& drops() const override { return vDrops; }
     bool dosing() const override;
-    bool countsParticles() const override { return variant_.countsParticles; }
     int learnerSeriesCount() const override;
     const ChartSeries* learnerSeries(int number) const override;
 
@@ -143,13 +146,43 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     Timer tmr_Unload{*this, "tmr_Unload", 100};
 
   protected:
-    // What the model says of the present beaker; vVol is above 0. Called when the volumes or the
-    // particles may have changed.
+    // What the model says of the present beaker.
     struct Reading {
         double shown = 0; // given to the places that the form shows
         Color liquid;
     };
-    virtual Reading presentReading() const = 0;
+    // Once a frame, also while the beaker is empty; none: there is nothing to be said yet.
+    virtual std::optional<Reading> presentReading() = 0;
+    // What a form adds to the end of a frame, and to an accepted click on the burette.
+    virtual void frameDone() {}
+    // False: no direct answer is right at this point.
+    virtual bool answerable() const { return true; }
+    virtual void reagentComing() {}
+
+    // One paced turn: events, a frame, events, sleep to 20 ms.
+    void turn();
+    // The form is about to go, so loops end.
+    bool leaving() const;
+    // Keeps other clicks from dosing or calculating while one is at work. Not taken when another
+    // one is.
+    class Occupation {
+      public:
+        explicit Occupation(Workbench& bench) : bench_(bench), taken_(!bench.occupied_) {
+            bench_.occupied_ = true;
+        }
+        ~Occupation() {
+            if (taken_) {
+                bench_.occupied_ = false;
+            }
+        }
+        Occupation(const Occupation&) = delete;
+        Occupation& operator=(const Occupation&) = delete;
+        bool taken() const { return taken_; }
+
+      private:
+        Workbench& bench_;
+        const bool taken_;
+    };
     // The guided calculation of the form. Asked for once, at the end of the construction.
     virtual GuidedCalculation& guidance() = 0;
     const GuidedCalculation& guidance() const { return const_cast<Workbench*>(this)->guidance(); }
@@ -176,11 +209,9 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void showScoreOfErrors();
     void showResult();
     void mainLoop();
-    bool leaving() const;
     // Lets frames run until what falls has landed and what reacts has reacted, at most 10 s.
     bool settleBeaker();
 
-    void turn(); // events, one frame, events, sleep to 20 ms
     void hDropsStep();
     void moveDrops();
     void land(int index);
@@ -222,7 +253,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void drawGlassOutline(Surface& glass) const;
 
     const WorkbenchVariant& variant_;
-    bool settling_ = false; // a click that waits for the beaker is under way
+    bool occupied_ = false; // a click that takes its time is under way
 
     // What the controls show at present, so that a frame at rest writes nothing.
     struct Shown {

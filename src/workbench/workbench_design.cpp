@@ -90,7 +90,7 @@ void Workbench::designTaskSheet() {
     constexpr double kGapLeft = kTextLeft + 65; // behind "Klick auf"
     constexpr double kGapWidth = 122;
     constexpr double kTops[] = {50, 226, 288};
-    constexpr double kReagentTop = 158;
+    constexpr double kReagentTop = 164;
     frame(ctl_Frame2, frm_Holder, {kMiddle, kMargin, kMiddleWidth, 376}, "Aufgabenzettel",
           "Ico\\20\\Computer\\Signs\\Checked.ico");
     pic_Step.each([&](int index, ctl_Image& image) {
@@ -98,7 +98,7 @@ void Workbench::designTaskSheet() {
         image.setPlace(12, kTops[index], 18, 18);
     });
     label(lab_Step(0), ctl_Frame2, {kTextLeft, kTops[0], kTextWidth, 56}, "", sheetFont);
-    button(ctl_Button1, ctl_Frame2, {kTextLeft, 100, 190, 32}, "'Klick auf die Pipette'");
+    button(ctl_Button1, ctl_Frame2, {kTextLeft, 88, 190, 30}, "'Klick auf die Pipette'");
     label(lab_Step1, ctl_Frame2, {kTextLeft, kReagentTop, kTextWidth, 56}, "", sheetFont);
     button(ctl_Button3, ctl_Frame2, {kGapLeft, kReagentTop - 4, kGapWidth, 23}, "Bürette ");
     label(lab_Step(1), ctl_Frame2, {kTextLeft, kTops[1], kTextWidth, 56}, "", sheetFont);
@@ -130,11 +130,10 @@ void Workbench::mark(ctl_Image& image, const Rect& place, const char* icon) {
 
 void Workbench::designReadings() {
     frame(frm_Volumes, frm_Holder, {kRight, kMargin, kRightWidth, 164}, "Angaben");
-    static constexpr const char* kNames[] = {
-        "VµV(S)     = ", "VµZ(OH-) =", "cµV(S) =", "cµZ(OH-) = 1 mol/L"};
     lab_VolLabel.each([&](int index, ctl_TermLabel& name) {
         const bool alone = !lab_Vol.has(index);
-        term(name, frm_Volumes, {12, 42.0 + 29 * index, alone ? 188.0 : 84.0, 26}, kNames[index]);
+        term(name, frm_Volumes, {12, 42.0 + 29 * index, alone ? 188.0 : 84.0, 26},
+             std::string(variant().volumeNames[static_cast<std::size_t>(index)]));
     });
     lab_Vol.each([&](int index, ctl_TermLabel& value) {
         term(value, frm_Volumes, {98, 42.0 + 29 * index, 106, 26}, "0 mL",
@@ -184,7 +183,7 @@ void Workbench::designDirectInput() {
     frame(frm_CalcDirect, frm_Holder, {kMiddle, 392, kMiddleWidth, 176},
           std::string(variant().calculationTitle), "Ico\\16\\Business\\Office\\Calculator.ico");
     frm_CalcDirect.setVisible(false);
-    term(lab_CalcX, frm_CalcDirect, {24, 60, 70, 32}, "pH =", kLarge);
+    term(lab_CalcX, frm_CalcDirect, {8, 60, 88, 32}, std::string(variant().answerName), kLarge);
     lab_CalcX.setTextAlign(TextAlign::Right);
     txt_Ph.setContainer(frm_CalcDirect);
     txt_Ph.setPlace(102, 58, 130, 36);

@@ -30,11 +30,12 @@ constexpr Color kNowDark{0, 128, 0};
 
 void Workbench::but_Add_Click(int index) {
     if (guidance().frm_Calc.visible() || frm_CalcDirect.visible() || session().SessionBusy ||
-        vUnload || settling_) {
+        vUnload || occupied_) {
         return;
     }
     if (index == kPipette) {
-        markCalcButton(session().SessionRequiredPoints.Contains("0"));
+        markCalcButton(variant_.firstPoint == FirstPoint::SampleAlone &&
+                       session().SessionRequiredPoints.Contains("0"));
     } else {
         if (dosingRefused()) {
             return;
@@ -46,6 +47,9 @@ void Workbench::but_Add_Click(int index) {
     }
     if (countingDropsInAir() * 0.001 + hGetVol(-1) >= kBeakerLimit * 0.001) {
         return;
+    }
+    if (index == kBurette) {
+        reagentComing();
     }
     session().SessionBusy = true;
     vCalm = false;
@@ -81,6 +85,9 @@ bool Workbench::dosingRefused() {
 }
 
 bool Workbench::pointPending() const {
+    if (sClicks == 0 && variant_.firstPoint == FirstPoint::AfterReagent) {
+        return false;
+    }
     const SeriesData& points = session().SessionMySeries->Data;
     const bool required = session().SessionRequiredPoints.Contains(std::to_string(sClicks));
     return required && (points.LastX() < sClicks || (points.Count() == 0 && sClicks == 0));
@@ -164,7 +171,7 @@ void Workbench::dosePipette() {
     RandomSource& random = CoreLib().Random;
     const double millimoles = 10 * session().SessionConcentration;
     for (int pair = static_cast<int>(session().SessionConcentration * 10); pair > 0; --pair) {
-        for (const int kind : {variant_.pipette.first, variant_.pipette.second}) {
+        for (const int kind : variant_.pipette) {
             drawPipetteFrame();
             vDrops.CREATE(kind, dropX(), 0);
             hWait(random.next() * 0.1 + 0.1);

@@ -88,10 +88,10 @@ void Workbench::hWait(double seconds, bool /*pump*/) {
 }
 
 bool Workbench::settleBeaker() {
-    if (session().SessionBusy || settling_) {
+    const Occupation occupation(*this);
+    if (session().SessionBusy || !occupation.taken()) {
         return false;
     }
-    settling_ = true;
     const double start = CoreLib().Clock.Now();
     const auto moving = [this] {
         return vDrops.COUNT() > 0 || (variant_.countsParticles && vMolecules.hasPairThatCanReact());
@@ -99,7 +99,6 @@ bool Workbench::settleBeaker() {
     while (moving() && !leaving() && CoreLib().Clock.Now() - start < kPatience) {
         turn();
     }
-    settling_ = false;
     return !leaving();
 }
 
@@ -108,6 +107,7 @@ void Workbench::hThinkDo() {
     hBeakerStep(vCalm);
     showBalance();
     showVolumes();
+    frameDone();
 }
 
 void Workbench::hDropsStep() {
@@ -174,9 +174,8 @@ void Workbench::hBeakerStep(bool calm) {
     placeWater();
     hParticleStep(calm);
     hDrawBeaker();
-    if (vVol != 0) {
-        showReading();
-    }
+    showReading();
+    guidance().beakerChanged();
 }
 
 double Workbench::waterHeight() const {
@@ -245,10 +244,11 @@ void Workbench::hDrawBeaker() {
 }
 
 void Workbench::showReading() {
-    const Reading reading = presentReading();
-    vPhNow = reading.shown;
-    session().ParticleBackColor = reading.liquid;
-    pic_Water.setBackColor(reading.liquid);
+    if (const std::optional<Reading> reading = presentReading()) {
+        vPhNow = reading->shown;
+        session().ParticleBackColor = reading->liquid;
+        pic_Water.setBackColor(reading->liquid);
+    }
 }
 
 int Workbench::balanceOf(const BalanceLine& species) const {

@@ -14,7 +14,7 @@ namespace {
 // After 1 s the dosing ends, after 2 s the drop lands, after 3 s the last pair is gone.
 class BeakerForm final : public Form, public ParticleScene {
   public:
-    explicit BeakerForm(bool counts) : Form("frm_Beaker", {500, 500}), counts_(counts) {
+    BeakerForm() : Form("frm_Beaker", {500, 500}) {
         beaker_.CREATE(kHydronium, 10, 10);
         beaker_.CREATE(kHydroxide, 20, 20);
         drops_.CREATE(kSodium, 50, 0);
@@ -29,7 +29,6 @@ class BeakerForm final : public Form, public ParticleScene {
     const cls_Molecules& beaker() const override { return beaker_; }
     const cls_Molecules& drops() const override { return drops_; }
     bool dosing() const override { return seconds_ < 1; }
-    bool countsParticles() const override { return counts_; }
     int learnerSeriesCount() const override { return 2; }
     const ChartSeries* learnerSeries(int number) const override {
         return number == 1 ? &series_ : nullptr;
@@ -48,16 +47,15 @@ class BeakerForm final : public Form, public ParticleScene {
         }
     }
 
-    bool counts_;
     int seconds_ = 0;
     cls_Molecules beaker_;
     cls_Molecules drops_;
     ChartSeries series_{"Werte"};
 };
 
-Played playBeaker(const std::string& lines, bool counts = true) {
-    return play("start\n" + lines, [counts] {
-        BeakerForm form(counts);
+Played playBeaker(const std::string& lines) {
+    return play("start\n" + lines, [] {
+        BeakerForm form;
         form.tmr_Second.setEnabled(true);
         CoreLib().Windows.ShowModal(form);
     });
@@ -65,11 +63,6 @@ Played playBeaker(const std::string& lines, bool counts = true) {
 
 TEST(ScriptScene, SettlesWhenNothingMovesAndNothingCanReact) {
     const Played played = playBeaker("settle\nexpect clock == 3\nexpect beaker.count == 1");
-    EXPECT_EQ(played.status, 0) << played.errors;
-}
-
-TEST(ScriptScene, PairsDontMatterToAModelThatDoesNotCountThem) {
-    const Played played = playBeaker("settle\nexpect clock == 2", false);
     EXPECT_EQ(played.status, 0) << played.errors;
 }
 

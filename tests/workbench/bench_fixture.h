@@ -1,9 +1,9 @@
-// The strong acid's workbench on a fake host, shown without its main loop, so that a test calls its
-// routines one by one.
+// A workbench on a fake host, shown without its main loop, so that a test calls its routines one by
+// one. Which form it is, the fixture of that form says.
 #pragma once
 
 #include "shell/shell_fixture.h"
-#include "workbench/frm_AppMainStrong.h"
+#include "workbench/workbench.h"
 
 #include "shell/forms/frm_DialogphCompare.h"
 #include "shell/forms/instances.h"
@@ -12,25 +12,34 @@
 
 namespace quendal::test {
 
-class BenchTest : public ShellTest {
+class AnyBenchTest : public ShellTest {
   protected:
     static constexpr const char* kCurve = "Volumen;pH\n0;0,1\n10;7\n20;13,4\n";
 
-    BenchTest() {
+    AnyBenchTest() {
         session().SessionChartFactory = &host.calculator.ChartFactory();
-        for (const char* name : {"phstark06", "phstark08", "phstark10", "phstark12", "phstark14"}) {
-            host.files.write(std::string("data/") + name + ".crv", kCurve);
+        for (const char* stem : {"phstark", "phschwach", "potsilber"}) {
+            for (const char* digits : {"06", "08", "10", "12", "14"}) {
+                host.files.write(std::string("data/") + stem + digits + ".crv", kCurve);
+            }
         }
     }
 
-    frm_AppMainStrong& open(double concentration = 1.0, bool demo = false) {
+    virtual std::unique_ptr<Workbench> make() = 0;
+    // What the form asks for on its way to the screen.
+    virtual void beforeShow() {}
+    // Puts the particles into the beaker that are there when all has reacted.
+    virtual void settle(int /*millilitres*/) {}
+
+    Workbench& open(double concentration = 1.0, bool demo = false) {
         session().SessionConcentration = concentration;
         session().SessionDemo = demo;
-        bench_ = std::make_unique<frm_AppMainStrong>();
+        bench_ = make();
+        beforeShow();
         host.windows.Show(*bench_);
         return *bench_;
     }
-    frm_AppMainStrong& bench() { return *bench_; }
+    Workbench& bench() { return *bench_; }
     // Off the screen, as at the end of a task.
     void close() {
         host.windows.Unload(*bench_);
@@ -44,6 +53,7 @@ class BenchTest : public ShellTest {
         bench().vVol = 10 + millilitres;
         bench().vSourceVol = {10, millilitres};
         bench().sClicks = millilitres;
+        settle(millilitres);
         bench().hThinkDo();
     }
 
@@ -104,7 +114,7 @@ class BenchTest : public ShellTest {
     }
 
   private:
-    std::unique_ptr<frm_AppMainStrong> bench_;
+    std::unique_ptr<Workbench> bench_;
 };
 
 } // namespace quendal::test

@@ -1,4 +1,4 @@
-#include "bench_fixture.h"
+#include "strong_fixture.h"
 
 #include "particles/species.h"
 

@@ -17,9 +17,11 @@ GuidedCalculation::GuidedCalculation(Workbench& bench, const GuidanceTables& tab
     : frm_Calc(bench, "frm_Calc"), lab_CalcStep(bench, "lab_CalcStep", 0, size.headings - 1),
       lin_Calc(bench, "lin_Calc", 1, 4), lab_Calc(bench, "lab_Calc", 0, size.labels - 1),
       txt_Calc(bench, "txt_Calc", size.inputs), opt_Calc(bench, "opt_Calc", 0, size.options - 1),
-      opt_CalcStore(bench, "opt_CalcStore", {3}), but_CalcPH(bench, "but_CalcPH", size.calcButtons),
+      lab_optCalc(bench, "lab_optCalc", 0, size.optionHints - 1),
+      opt_CalcStore(bench, "opt_CalcStore", {size.store}),
+      but_CalcPH(bench, "but_CalcPH", size.calcButtons),
       but_CalcStep(bench, "but_CalcStep", 1, kOneClick), but_AchtungRW(bench, "but_AchtungRW"),
-      bench_(bench), tables_(tables) {
+      bench_(bench), tables_(tables), storeIndex_(size.store) {
     hookEvents();
 }
 
@@ -42,13 +44,22 @@ void GuidedCalculation::but_HelpCalc_Click() {
     vStepReached_.fill(false);
     const bool demo = bench_.vDemo;
     // A demo shows the long way.
-    details_ = {.acid = demo, .base = demo, .conc = demo};
+    details_ = {.acid = demo,
+                .base = demo,
+                .conc = demo,
+                .choice = demo,
+                .start = demo,
+                .silver = demo,
+                .final = demo};
+    if (tables_.clearsChoice) {
+        opt_Calc.each([](int, OptionButton& option) { option.setChecked(false); });
+    }
     vAutoRun_ = false;
     for (int step = 1; step <= kSteps; ++step) {
         but_CalcStep(step).setText(demo ? "D-Klick!" : "Weiter!");
     }
     hCalcStepShow(1);
-    if (opt_CalcStore(3).checked()) {
+    if (store().checked()) {
         clearInputs(4);
         hCalcStepShow(6);
         txt_Calc(6).setFocus();
@@ -92,9 +103,11 @@ void GuidedCalculation::focusStep() {
     }
 }
 
-const StepRow* GuidedCalculation::rowOf(int step) const {
-    const auto row = std::find_if(tables_.steps.begin(), tables_.steps.end(),
-                                  [step](const StepRow& r) { return r.step == step; });
+const StepRow* GuidedCalculation::rowOf(int step, int caseNumber) const {
+    const auto row =
+        std::find_if(tables_.steps.begin(), tables_.steps.end(), [&](const StepRow& r) {
+            return r.step == step && LayoutState{.caseNumber = caseNumber}.inOneOf(r.cases);
+        });
     return row == tables_.steps.end() ? nullptr : &*row;
 }
 
@@ -109,11 +122,13 @@ void GuidedCalculation::but_CalcStep_Click(int index) {
         index = 1;
     }
     if (bench_.vDemo) {
-        for (const StepRow& row : tables_.steps) {
-            fillIn(row);
+        for (int step = 1; step <= kSteps; ++step) {
+            if (const StepRow* row = rowOf(step, point_.caseNumber())) {
+                fillIn(*row);
+            }
         }
     }
-    const StepRow* row = rowOf(index);
+    const StepRow* row = rowOf(index, point_.caseNumber());
     if (row != nullptr && !passes(*row)) {
         climbLadder(index);
         focusStep();
@@ -133,13 +148,17 @@ void GuidedCalculation::pointPassed() {
         HostApp().SoundBank.Signal(2);
     }
     bench_.vLastVol = bench_.titrantMl();
+    bench_.showGuidedReading(point_.reading);
     bench_.hPointDone(point_.reading);
     bench_.but_phCompare_Click();
 }
 
 bool GuidedCalculation::passes(const StepRow& row) {
+    if (row.check == Check::None) {
+        return true;
+    }
     if (row.check == Check::Choice) {
-        return opt_Calc(point_.choice).checked();
+        return opt_Calc.has(point_.choice) && opt_Calc(point_.choice).checked();
     }
     const std::string answer = txt_Calc(row.step).text();
     if (equalsFill(row, answer)) {
@@ -167,6 +186,8 @@ std::string GuidedCalculation::fillText(const StepRow& row) const {
         return numbers.picture(row.expected(point_), "#0.00");
     case Fill::Picture3:
         return numbers.picture(row.expected(point_), "#0.000");
+    case Fill::Power:
+        return powerText(row.expected(point_));
     case Fill::DefaultText:
         break;
     }
@@ -175,7 +196,9 @@ std::string GuidedCalculation::fillText(const StepRow& row) const {
 
 void GuidedCalculation::fillIn(const StepRow& row) {
     if (row.check == Check::Choice) {
-        opt_Calc(point_.choice).setChecked(true);
+        if (opt_Calc.has(point_.choice)) {
+            opt_Calc(point_.choice).setChecked(true);
+        }
     } else {
         txt_Calc(row.step).setText(fillText(row));
     }
@@ -191,6 +214,17 @@ bool GuidedCalculation::clickDueStep() {
         }
     }
     return false;
+}
+
+std::string GuidedCalculation::powerText(double value) {
+    constexpr std::size_t kMantissa = 5; // characters kept
+    const NumberService& numbers = CoreLib().NumberService;
+    const std::string text = numbers.text(value);
+    const auto exponent = text.find('E');
+    if (exponent == std::string::npos) {
+        return numbers.Format(value, 3);
+    }
+    return text.substr(0, std::min(exponent, kMantissa)) + "*10^" + text.substr(exponent + 1);
 }
 
 std::string GuidedCalculation::resultText(int /*index*/, double value) const {
@@ -219,7 +253,9 @@ void GuidedCalculation::but_CalcPH_Click(int index) {
     if (!result) {
         return;
     }
-    clt_TermInput& input = index == kDirect ? bench_.txt_Ph : txt_Calc(index);
+    const auto& own = tables_.calculatorSteps;
+    const bool inStep = std::find(own.begin(), own.end(), index) != own.end();
+    clt_TermInput& input = inStep ? txt_Calc(index) : bench_.txt_Ph;
     input.setText(resultText(index, *result));
     input.setFocus();
 }
@@ -232,6 +268,10 @@ void GuidedCalculation::describe(FieldTable& table) const {
     table.add("vDetailAcid", details_.acid);
     table.add("vDetailBase", details_.base);
     table.add("vDetailConc", details_.conc);
+    table.add("vDetailCase", details_.choice);
+    table.add("vDetailStart", details_.start);
+    table.add("vDetailSilver", details_.silver);
+    table.add("vDetailFinal", details_.final);
 }
 
 } // namespace quendal

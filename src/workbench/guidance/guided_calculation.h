@@ -23,6 +23,8 @@ struct PanelSize {
     std::vector<int> inputs;      // txt_Calc
     int options;                  // opt_Calc(0..)
     std::vector<int> calcButtons; // but_CalcPH
+    int optionHints = 0;          // lab_optCalc(0..)
+    int store = 3;                // Index of opt_CalcStore
 };
 
 class GuidedCalculation {
@@ -44,6 +46,9 @@ class GuidedCalculation {
     void but_CalcStep_Click(int index);
     // Opens the popup calculator for a step, or for the direct input (2).
     void but_CalcPH_Click(int index);
+    // The beaker has changed under an open calculation. Lays it out anew where it stood without a
+    // button, because the particles hadn't reacted when the step was reached.
+    void beakerChanged();
     // Return while frm_Calc is open: clicks the first visible button of a step but the choice's.
     // True when the key is used up.
     bool clickDueStep();
@@ -51,15 +56,16 @@ class GuidedCalculation {
     void describe(FieldTable& table) const;
 
     ctl_Frame frm_Calc;
-    ControlArray<ctl_Label> lab_CalcStep;  // headings of the groups
-    ControlArray<Line> lin_Calc;           // lines between the groups, from 1
-    ControlArray<ctl_TermLabel> lab_Calc;  // terms
-    ControlArray<clt_TermInput> txt_Calc;  // inputs, by step
-    ControlArray<OptionButton> opt_Calc;   // the choice
-    ControlArray<CheckBox> opt_CalcStore;  // keeps the sample's amount for the next point
-    ControlArray<ctl_Button> but_CalcPH;   // the calculator beside an input
-    ControlArray<ctl_Button> but_CalcStep; // by step, and 13
-    ctl_Pannel but_AchtungRW;              // "here the way of calculating changes"
+    ControlArray<ctl_Label> lab_CalcStep;    // headings of the groups
+    ControlArray<Line> lin_Calc;             // lines between the groups, from 1
+    ControlArray<ctl_TermLabel> lab_Calc;    // terms
+    ControlArray<clt_TermInput> txt_Calc;    // inputs, by step
+    ControlArray<OptionButton> opt_Calc;     // the choice
+    ControlArray<ctl_TermLabel> lab_optCalc; // when an option is the right one
+    ControlArray<CheckBox> opt_CalcStore;    // keeps the sample's amount for the next point
+    ControlArray<ctl_Button> but_CalcPH;     // the calculator beside an input
+    ControlArray<ctl_Button> but_CalcStep;   // by step, and 13
+    ctl_Pannel but_AchtungRW;                // "here the way of calculating changes"
 
   protected:
     Workbench& bench() const { return bench_; }
@@ -82,6 +88,10 @@ class GuidedCalculation {
     virtual bool saysInPlaceOfRung(int /*step*/) { return false; }
     virtual LayoutState layoutState() const = 0;
 
+    // The first five characters of the mantissa and a power of ten ("1,995*10^-10") when the text
+    // form of `value` has an exponent, else its 3 places.
+    static std::string powerText(double value);
+
     // Nothing of the frame is to be seen before the first start.
     void hideAll();
 
@@ -91,11 +101,15 @@ class GuidedCalculation {
     void hookEvents();
     void clearInputs(int from);
     void layOut();
+    void writeTexts(const LayoutState& state);
+    void showButtons(const LayoutState& state);
     void showPart(const ShownRow& row, bool visible);
     void focusStep();
     void fillIn(const StepRow& row);
     std::string fillText(const StepRow& row) const;
-    const StepRow* rowOf(int step) const;
+    // The row of a step in a case; null when nothing is asked there.
+    const StepRow* rowOf(int step, int caseNumber) const;
+    CheckBox& store() { return opt_CalcStore(storeIndex_); }
     bool passes(const StepRow& row);
     bool equalsFill(const StepRow& row, const std::string& answer) const;
     void pointPassed();
@@ -105,11 +119,13 @@ class GuidedCalculation {
 
     Workbench& bench_;
     const GuidanceTables& tables_;
+    const int storeIndex_;
     PointValues point_;
     int sStep_ = 1;
     std::array<bool, kSteps + 2> vStepReached_{}; // by step, from 1
     bool vAutoRun_ = false;                       // the calculation steps through by itself
     int vTries_ = 0;                              // wrong answers in a row in this step
+    int laidOutCase_ = 0;                         // case that the frame shows
 };
 
 } // namespace quendal

@@ -6,26 +6,62 @@
 
 namespace quendal {
 
+namespace {
+
+bool holds(const ShownRow& row, const LayoutState& state) {
+    return (row.when == nullptr || row.when(state)) && state.inOneOf(row.cases) &&
+           (row.detail == nullptr || state.details.*row.detail);
+}
+
+} // namespace
+
 void GuidedCalculation::layOut() {
     const LayoutState state = layoutState();
+    laidOutCase_ = state.caseNumber;
+    writeTexts(state);
     writeLabels(state);
+    showButtons(state);
     // Several rows may speak of one control; one that holds is enough.
     std::map<std::pair<Part, int>, std::pair<const ShownRow*, bool>> visibility;
     for (const ShownRow& row : tables_.shown) {
-        const bool holds = vStepReached_[static_cast<std::size_t>(row.step)] &&
-                           (row.when == nullptr || row.when(state));
+        const bool visible = vStepReached_[static_cast<std::size_t>(row.step)] && holds(row, state);
         auto& entry = visibility[{row.part, row.index}];
         entry.first = &row;
-        entry.second = entry.second || holds;
+        entry.second = entry.second || visible;
     }
     for (const auto& [control, entry] : visibility) {
         showPart(*entry.first, entry.second);
     }
-    for (int step = 1; step <= kSteps; ++step) {
-        but_CalcStep(step).setVisible(step == sStep_);
-        if (but_CalcPH.has(step) && but_CalcPH(step).container() == &frm_Calc) {
-            but_CalcPH(step).setVisible(step == sStep_);
+}
+
+void GuidedCalculation::writeTexts(const LayoutState& state) {
+    for (const TextRow& row : tables_.texts) {
+        const bool reached = row.step == 0 || vStepReached_[static_cast<std::size_t>(row.step)];
+        if (!reached || !state.inOneOf(row.cases)) {
+            continue;
         }
+        if (row.part == Part::Heading) {
+            lab_CalcStep(row.index).setText(std::string(row.text));
+        } else {
+            lab_Calc(row.index).setTerm(std::string(row.text));
+        }
+    }
+}
+
+void GuidedCalculation::showButtons(const LayoutState& state) {
+    for (int step = 1; step <= kSteps; ++step) {
+        const bool due = step == sStep_ && rowOf(step, state.caseNumber) != nullptr;
+        but_CalcStep(step).setVisible(due);
+    }
+    for (const int step : tables_.calculatorSteps) {
+        but_CalcPH(step).setVisible(step == sStep_);
+    }
+}
+
+void GuidedCalculation::beakerChanged() {
+    if (frm_Calc.visible() && laidOutCase_ != layoutState().caseNumber &&
+        !but_CalcStep(sStep_).visible()) {
+        hCalcStepShow(sStep_);
     }
 }
 
@@ -36,8 +72,9 @@ void GuidedCalculation::hideAll() {
     for (const ShownRow& row : tables_.shown) {
         showPart(row, false);
     }
-    but_CalcPH.each(
-        [this](int, ctl_Button& button) { button.setVisible(button.container() != &frm_Calc); });
+    for (const int step : tables_.calculatorSteps) {
+        but_CalcPH(step).setVisible(false);
+    }
 }
 
 void GuidedCalculation::showPart(const ShownRow& row, bool visible) {
@@ -57,8 +94,14 @@ void GuidedCalculation::showPart(const ShownRow& row, bool visible) {
     case Part::Option:
         opt_Calc(row.index).setVisible(visible);
         break;
+    case Part::OptionHint:
+        lab_optCalc(row.index).setVisible(visible);
+        break;
     case Part::StoreOption:
-        opt_CalcStore(row.index).setVisible(visible);
+        store().setVisible(visible);
+        break;
+    case Part::StepButton:
+        but_CalcStep(row.index).setVisible(visible || but_CalcStep(row.index).visible());
         break;
     }
 }

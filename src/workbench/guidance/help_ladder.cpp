@@ -12,8 +12,6 @@ namespace quendal {
 
 namespace {
 
-constexpr const char* kReminder = "Das ist nicht richtig!\r\nÜberprüfe Deine Eingaben!\r\n"
-                                  "Beachte die Informationen rechts an der Seite!";
 constexpr const char* kNoHelp =
     "Der Lehrer hat mir verboten, Dir zu helfen! Bist Du etwa ein böser Klicker??? Du mußt das "
     "schon alleine schaffen! Beachte die Informationen rechts an der Seite!";
@@ -28,17 +26,20 @@ bool asks(const std::string& question) {
 
 void GuidedCalculation::climbLadder(int step) {
     ++vTries_;
-    bench_.countWrongAnswer();
+    bench_.countWrongAnswer(tables_.counting.reported);
     if (vTries_ < kTriesBeforeHelp) {
-        CoreLib().MessageBox.Ok(kReminder, "");
+        CoreLib().MessageBox.Ok(std::string(tables_.reminder), "");
         return;
     }
     if (session().SessionNoHelp) {
         CoreLib().MessageBox.Alarm(kNoHelp, "KLICKER-ALARM!", "Ico\\32\\Computer\\Signs\\Stop.ico");
         return;
     }
-    const auto rung = std::find_if(tables_.rungs.begin(), tables_.rungs.end(),
-                                   [step](const RungRow& row) { return row.step == step; });
+    const LayoutState state = layoutState();
+    const auto rung =
+        std::find_if(tables_.rungs.begin(), tables_.rungs.end(), [&](const RungRow& row) {
+            return row.step == step && (row.when == nullptr || row.when(state));
+        });
     if (rung != tables_.rungs.end() && offersDetail(*rung)) {
         return;
     }
@@ -55,15 +56,19 @@ bool GuidedCalculation::offersDetail(const RungRow& rung) {
     }
     details_.*rung.detail = true;
     vTries_ = 0;
+    bench_.vHelpUsed += tables_.counting.help ? 1 : 0;
+    // Step 0 is none and shows nothing.
+    vStepReached_[static_cast<std::size_t>(rung.reached)] = true;
+    vStepReached_[static_cast<std::size_t>(rung.notReached)] = false;
     hCalcStepShow(rung.backTo);
     return true;
 }
 
 void GuidedCalculation::offerNumbers(int step) {
     // Counted before the learner has answered, and whatever the answer will be.
-    ++bench_.vSolveUsed;
+    bench_.vSolveUsed += tables_.counting.solve ? 1 : 0;
     const bool choice = step == tables_.choiceStep;
-    const StepRow* row = rowOf(step);
+    const StepRow* row = rowOf(step, point_.caseNumber());
     if (asks(std::string(choice ? tables_.solveChoiceQuestion : tables_.solveQuestion)) &&
         row != nullptr) {
         fillIn(*row);

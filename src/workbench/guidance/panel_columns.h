@@ -17,12 +17,12 @@ struct Column {
     TextAlign align = TextAlign::Left;
 };
 
-inline constexpr Column kFormula{12, 150};                // the rule
-inline constexpr Column kName{164, 66, TextAlign::Right}; // "c =" beside the input
-inline constexpr Column kInput{234, 64};
-inline constexpr Column kUnit{302, 42};
-inline constexpr Column kCalculator{344, 25};
-inline constexpr Column kButton{372, 64};
+inline constexpr Column kFormula{12, 137};                // the rule
+inline constexpr Column kName{150, 66, TextAlign::Right}; // "c =" beside the input
+inline constexpr Column kInput{219, 94};
+inline constexpr Column kUnit{316, 40};
+inline constexpr Column kCalculator{356, 24};
+inline constexpr Column kButton{381, 59};
 inline constexpr double kRowHeight = 26;
 
 // The frame itself, its button for one click and the warning.

@@ -14,9 +14,13 @@ struct PointValues {
     double conc = 0;          // mol/L of what is in excess
     double excess = 0;        // mol in excess, rounded to 3 decimals
     double pOH = 0;           // behind the equivalence point only
+    double silverIon = 0;     // mol/L of Ag+ in the solution
     double reading = 0;       // pH or potential, the point's y
     int choice = 0;           // which option of the choice is right, from 0
     bool baseInExcess = false;
+
+    // The choice as forms with cases count it, from 1.
+    int caseNumber() const { return choice + 1; }
 };
 
 } // namespace quendal
