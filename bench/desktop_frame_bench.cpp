@@ -1,13 +1,11 @@
 // What a frame of the workbench costs on the real windows, without a screen.
-#include "desktop/desktop_host.h"
 #include "desktop/pictures/picture_surface.h"
 #include "desktop/windows/widget_peer.h"
+#include "desktop_bench.h"
 #include "shell/session/session.h"
 #include "workbench/frm_AppMainStrong.h"
 
 #include <QApplication>
-
-#include <benchmark/benchmark.h>
 
 namespace quendal {
 
@@ -60,14 +58,12 @@ class SettledWorkbench {
     FormWindow* window_ = nullptr;
 };
 
-DesktopHost* theHost = nullptr;
-
 QSize sizeOf(const benchmark::State& state) {
     return {static_cast<int>(state.range(0)), static_cast<int>(state.range(1))};
 }
 
 void frameAtRest(benchmark::State& state) {
-    SettledWorkbench workbench(*theHost, sizeOf(state));
+    SettledWorkbench workbench(benchHost(), sizeOf(state));
     for (auto _ : state) {
         workbench.frame();
     }
@@ -75,7 +71,7 @@ void frameAtRest(benchmark::State& state) {
 BENCHMARK(frameAtRest)->Args({1366, 768})->Args({1920, 1080})->Unit(benchmark::kMicrosecond);
 
 void frameWithEverythingMoved(benchmark::State& state) {
-    SettledWorkbench workbench(*theHost, sizeOf(state));
+    SettledWorkbench workbench(benchHost(), sizeOf(state));
     for (auto _ : state) {
         workbench.frame();
         workbench.paintPictures();
@@ -88,6 +84,20 @@ BENCHMARK(frameWithEverythingMoved)
 
 } // namespace
 
+namespace {
+DesktopHost* theHost = nullptr;
+}
+
+DesktopHost& benchHost() {
+    return *theHost;
+}
+
+void runBenchmarks(DesktopHost& host) {
+    theHost = &host;
+    session().SessionChartFactory = &host.app().Calculator.ChartFactory();
+    benchmark::RunSpecifiedBenchmarks();
+}
+
 } // namespace quendal
 
 int main(int argc, char** argv) {
@@ -96,9 +106,7 @@ int main(int argc, char** argv) {
     quendal::CommandLine line;
     line.dataFolder = QUENDAL_SOURCE_DIR "/data";
     quendal::DesktopHost host(application, line);
-    quendal::theHost = &host;
-    quendal::session().SessionChartFactory = &host.app().Calculator.ChartFactory();
     benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    quendal::runBenchmarks(host);
     return 0;
 }

@@ -4,6 +4,7 @@
 #include "script/play_each.h"
 #include "script/script_options.h"
 #include "shell/entry.h"
+#include "shell/single_forms.h"
 
 #include <iostream>
 
@@ -11,12 +12,15 @@ using namespace quendal;
 
 namespace {
 
+ScriptProgram chooseProgram(const ScriptSettings& settings, std::string& fault) {
+    return settings.form ? singleFormProgram(singleForms(), settings.form->name,
+                                             settings.form->fields, runSingleForm, fault)
+                         : runSession;
+}
+
 int playOne(int argc, char** argv, const ScriptOptions& options) {
-    if (options.desktop) {
-        return runDesktopScript(argc, argv, options);
-    }
-    return playHeadlessFile(options,
-                            [&] { runSession("quendal-script " + options.files.front()); });
+    return options.desktop ? runDesktopScript(argc, argv, options, chooseProgram)
+                           : playHeadlessFile(options, chooseProgram);
 }
 
 } // namespace

@@ -6,7 +6,8 @@
 
 namespace quendal {
 
-int runDesktopScript(int /*argc*/, char** /*argv*/, const ScriptOptions& /*options*/) {
+int runDesktopScript(int /*argc*/, char** /*argv*/, const ScriptOptions& /*options*/,
+                     const ProgramChooser& /*choose*/) {
     std::cerr << "quendal-script: --desktop needs a build with QUENDAL_DESKTOP\n";
     return static_cast<int>(ScriptStatus::Malformed);
 }

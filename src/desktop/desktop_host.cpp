@@ -42,14 +42,16 @@ DesktopHost::DesktopHost(QApplication& application, const CommandLine& line,
       app_(files_, withPlainNumbers(link_), line),
       icons_(files_, app_.PathService.DataPath() + "icons/"), graphics_(files_),
       boxes_(icons_, link_), windows_(clock_, scriptClock_, icons_, link_),
-      coreLib_{.Clock = clock_,
-               .SystemInfo = orOwn<SystemInfo>(standIns.systemInfo, ownSystemInfo_),
-               .NumberService = numbers_,
-               .MessageBox = boxes_,
-               .FileService = files_,
-               .Graphics = graphics_,
-               .Random = orOwn<RandomSource>(standIns.random, ownRandom_),
-               .Windows = windows_} {
+      capture_(windows_), coreLib_{.Clock = clock_,
+                                   .SystemInfo =
+                                       orOwn<SystemInfo>(standIns.systemInfo, ownSystemInfo_),
+                                   .NumberService = numbers_,
+                                   .MessageBox = boxes_,
+                                   .FileService = files_,
+                                   .Graphics = graphics_,
+                                   .Random = orOwn<RandomSource>(standIns.random, ownRandom_),
+                                   .Windows = windows_,
+                                   .Screen = capture_} {
     QApplication::setApplicationName(kProductName);
     QApplication::setApplicationDisplayName(kProductName);
     QApplication::setApplicationVersion(kProductVersion);

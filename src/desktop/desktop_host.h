@@ -10,6 +10,7 @@
 #include "desktop/services/desktop_random.h"
 #include "desktop/services/desktop_system_info.h"
 #include "desktop/services/observer_link.h"
+#include "desktop/windows/desktop_screen_capture.h"
 #include "desktop/windows/desktop_window_system.h"
 #include "host/disk_file_service.h"
 #include "host/number_service.h"
@@ -59,6 +60,7 @@ class DesktopHost {
     DesktopGraphics graphics_;
     DesktopMessageBox boxes_;
     DesktopWindowSystem windows_;
+    DesktopScreenCapture capture_;
     CoreLibRoot coreLib_;
 };
 

@@ -21,8 +21,8 @@ class CountingSurface final : public Surface {
     CountingSurface(const PictureBox& owner, DrawingCounts& counts)
         : owner_(owner), counts_(counts) {}
 
-    double ScaleWidth() const override { return owner_.place().width; }
-    double ScaleHeight() const override { return owner_.place().height; }
+    double ScaleWidth() const override { return surfaceScale(owner_).width; }
+    double ScaleHeight() const override { return surfaceScale(owner_).height; }
     void Clear() override { ++counts_.clears; }
     void Line(Point, Point, Color, double) override { ++counts_.lines; }
     void Box(Point, Point, Color) override { ++counts_.boxes; }
@@ -30,6 +30,9 @@ class CountingSurface final : public Surface {
     void Polygon(std::span<const Point>, Color) override { ++counts_.polygons; }
     void Text(Point, std::string_view, const FontSpec&, Color) override { ++counts_.texts; }
     void Copy(const PicturePtr& picture, Point) override {
+        counts_.copies += picture != nullptr ? 1 : 0;
+    }
+    void StretchBlt(const Rect&, const PicturePtr& picture, const Rect&, RasterOp) override {
         counts_.copies += picture != nullptr ? 1 : 0;
     }
 

@@ -3,17 +3,72 @@
 #include "host/buttons.h"
 #include "host/form.h"
 #include "host/labels.h"
+#include "host/pictures.h"
 #include "host/roots.h"
 #include "host/window_system.h"
 
+#include <algorithm>
+
 namespace quendal {
 
-void HeadlessActor::click(Control& control) {
+namespace {
+
+// Size in the control's own scale units.
+Size unitsOf(const Control& control) {
+    const auto* box = dynamic_cast<const PictureBox*>(&control);
+    return box != nullptr ? surfaceScale(*box)
+                          : Size{control.place().width, control.place().height};
+}
+
+Point placeOnForm(const Control& control) {
+    Point place{control.place().left, control.place().top};
+    for (const Control* outer = control.container(); outer != nullptr; outer = outer->container()) {
+        place = {place.x + outer->place().left, place.y + outer->place().top};
+    }
+    return place;
+}
+
+// A picture that nobody watches lets a press through to the form.
+bool letsThrough(const Control& control) {
+    return control.kind() == ControlKind::PictureBox && !control.onClick && !control.onMouse;
+}
+
+// The control in front, of those that wait for presses, beneath a place on the form.
+Control* controlAt(const Form& form, Point at) {
+    const auto& controls = form.controls();
+    const auto found =
+        std::find_if(controls.rbegin(), controls.rend(), [&](const Control* control) {
+            const Point start = placeOnForm(*control);
+            const bool waits = control->onClick || control->onMouse;
+            return waits && control->reach() == Reach::Reachable && at.x >= start.x &&
+                   at.y >= start.y && at.x < start.x + control->place().width &&
+                   at.y < start.y + control->place().height;
+        });
+    return found == controls.rend() ? nullptr : *found;
+}
+
+void pressMiddle(Control& control) {
     if (control.onMouse) {
-        const Rect& place = control.place();
-        control.userMouse(place.width / 2, place.height / 2, MouseButton::Left);
+        const Size units = unitsOf(control);
+        control.userMouse(units.width / 2, units.height / 2, MouseButton::Left);
     } else {
         control.userClicked();
+    }
+}
+
+} // namespace
+
+void HeadlessActor::click(Control& control) {
+    if (!letsThrough(control)) {
+        pressMiddle(control);
+        return;
+    }
+    const Point start = placeOnForm(control);
+    const Point middle{start.x + control.place().width / 2, start.y + control.place().height / 2};
+    if (Control* beneath = controlAt(control.form(), middle)) {
+        pressMiddle(*beneath);
+    } else {
+        control.form().Form_MouseDown(middle.x, middle.y, MouseButton::Left);
     }
 }
 

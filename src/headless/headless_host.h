@@ -3,6 +3,7 @@
 #pragma once
 
 #include "headless/headless_boxes.h"
+#include "headless/headless_capture.h"
 #include "headless/headless_services.h"
 #include "headless/headless_windows.h"
 #include "host/disk_file_service.h"
@@ -44,7 +45,9 @@ class HeadlessHost {
     SizeOnlyGraphics graphics_{files_};
     RepeatableRandom random_;
     HeadlessWindows windows_;
-    CoreLibRoot coreLib_{clock_, system_, numbers_, boxes_, files_, graphics_, random_, windows_};
+    HeadlessCapture capture_{windows_};
+    CoreLibRoot coreLib_{clock_,    system_, numbers_, boxes_,  files_,
+                         graphics_, random_, windows_, capture_};
 
     FixedPath paths_;
     SoundOptions soundOptions_;

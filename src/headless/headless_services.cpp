@@ -68,6 +68,14 @@ class SizeOnlyPicture final : public Picture {
     int height_;
 };
 
+} // namespace
+
+PicturePtr sizeOnlyPicture(int width, int height) {
+    return std::make_shared<SizeOnlyPicture>(width, height);
+}
+
+namespace {
+
 // The logical screen of a GIF: two 16-bit numbers behind the signature, low byte first.
 PicturePtr readGifSize(std::string_view bytes) {
     constexpr std::size_t kHeaderSize = 13;
@@ -81,7 +89,7 @@ PicturePtr readGifSize(std::string_view bytes) {
     };
     const int width = number(6);
     const int height = number(8);
-    return width > 0 && height > 0 ? std::make_shared<SizeOnlyPicture>(width, height) : nullptr;
+    return width > 0 && height > 0 ? sizeOnlyPicture(width, height) : nullptr;
 }
 
 } // namespace

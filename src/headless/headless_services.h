@@ -78,6 +78,9 @@ class ReportingControl final : public HostControl {
     std::map<std::string, std::string> keys_;
 };
 
+// A picture of which only the size is known.
+PicturePtr sizeOnlyPicture(int width, int height);
+
 // Knows pictures by their size only.
 class SizeOnlyGraphics final : public Graphics {
   public:

@@ -14,9 +14,13 @@ namespace {
 
 constexpr double kNever = std::numeric_limits<double>::infinity();
 
-double scaleOf(const Form& form, Size screen) {
+double fitScale(const Form& form, Size screen) {
     const Size design = form.designSize();
     return std::min(screen.width / design.width, screen.height / design.height);
+}
+
+bool isPlaced(const Form& form) {
+    return form.wantedPlace().width > 0 && form.wantedPlace().height > 0;
 }
 
 } // namespace
@@ -43,6 +47,27 @@ Size HeadlessWindows::screen() const {
     const bool unscaled = top() != nullptr && top()->scalesItself();
     const double scale = unscaled ? 1 : scale_;
     return {screen_.width / scale, screen_.height / scale};
+}
+
+double HeadlessWindows::scaleOf(const Form& form) const {
+    if (form.scalesItself() || !form.shown()) {
+        return 1;
+    }
+    return form.windowState() == WindowState::Maximised ? fitScale(form, screen_)
+           : isPlaced(form)                             ? scale_
+                                                        : 1;
+}
+
+Rect HeadlessWindows::placeOnScreen(const Form& form) const {
+    if (form.windowState() == WindowState::Maximised) {
+        return {0, 0, screen_.width, screen_.height};
+    }
+    const double scale = scaleOf(form);
+    const Size size{form.inner().width * scale, form.inner().height * scale};
+    const Rect& wanted = form.wantedPlace();
+    return isPlaced(form) ? Rect{wanted.left * scale, wanted.top * scale, size.width, size.height}
+                          : Rect{(screen_.width - size.width) / 2,
+                                 (screen_.height - size.height) / 2, size.width, size.height};
 }
 
 void HeadlessWindows::EndProcess() {
@@ -73,18 +98,17 @@ void HeadlessWindows::waitForEvents(double until) {
 
 Size HeadlessWindows::innerSize(const Form& form) const {
     if (form.windowState() == WindowState::Maximised) {
-        const double scale = form.scalesItself() ? 1 : scaleOf(form, screen_);
+        const double scale = form.scalesItself() ? 1 : fitScale(form, screen_);
         return {screen_.width / scale, screen_.height / scale};
     }
     const Rect& wanted = form.wantedPlace();
-    const bool asked = wanted.width > 0 && wanted.height > 0;
-    return asked ? Size{wanted.width, wanted.height} : form.designSize();
+    return isPlaced(form) ? Size{wanted.width, wanted.height} : form.designSize();
 }
 
 void HeadlessWindows::realise(Form& form, bool /*modal*/) {
     attachSurfaces(form);
     if (form.windowState() == WindowState::Maximised && !form.scalesItself()) {
-        scale_ = scaleOf(form, screen_);
+        scale_ = fitScale(form, screen_);
     }
     if (watchers_.observer != nullptr) {
         watchers_.observer->formShown(form);

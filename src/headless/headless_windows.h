@@ -21,11 +21,16 @@ class HeadlessWindows final : public WindowSystem {
     ~HeadlessWindows() override;
 
     Size screen() const override;
+    // A form that was given no place counts as shown at its design size.
+    double scaleOf(const Form& form) const override;
     void setPointer(MousePointer pointer) override { pointer_ = pointer; }
     MousePointer pointer() const { return pointer_; }
     [[noreturn]] void EndProcess() override;
     void placeChanged(Form& form) override;
 
+    // In pixels.
+    Size wholeScreen() const { return screen_; }
+    Rect placeOnScreen(const Form& form) const;
     // Of all picture boxes together.
     const DrawingCounts& drawn() const { return counts_; }
 

@@ -27,15 +27,14 @@ int playHeadless(const Script& script, const ScriptOptions& options,
     }
 }
 
-int playHeadlessFile(const ScriptOptions& options, const std::function<void()>& program) {
+int playHeadlessFile(const ScriptOptions& options, const ProgramChooser& choose) {
     const std::string& file = options.files.front();
-    ScriptFault fault;
-    const auto script = loadScript(file, fault);
-    if (!script) {
-        std::cerr << file << ':' << fault.line << ": " << fault.message << '\n';
+    const auto ready = readyScript(file, choose, std::cerr);
+    if (!ready) {
         return static_cast<int>(ScriptStatus::Malformed);
     }
-    return playHeadless(*script, options, program, std::cout, std::cerr);
+    const auto program = [&] { ready->program("quendal-script " + file); };
+    return playHeadless(ready->script, options, program, std::cout, std::cerr);
 }
 
 } // namespace quendal

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "script/script_options.h"
+#include "script/script_program.h"
 
 #include <functional>
 #include <iosfwd>
@@ -16,6 +17,6 @@ int playHeadless(const Script& script, const ScriptOptions& options,
                  const std::function<void()>& program, std::ostream& out, std::ostream& err);
 
 // The same for the one file of `options`, on the standard streams.
-int playHeadlessFile(const ScriptOptions& options, const std::function<void()>& program);
+int playHeadlessFile(const ScriptOptions& options, const ProgramChooser& choose);
 
 } // namespace quendal

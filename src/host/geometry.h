@@ -31,4 +31,14 @@ struct Rect {
     friend constexpr bool operator==(const Rect&, const Rect&) = default;
 };
 
+// Whole pixels of the screen; all four edges belong to it.
+struct PixelRect {
+    int left = 0;
+    int top = 0;
+    int right = -1;
+    int bottom = -1;
+
+    friend constexpr bool operator==(const PixelRect&, const PixelRect&) = default;
+};
+
 } // namespace quendal

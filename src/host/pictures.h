@@ -9,12 +9,17 @@
 
 namespace quendal {
 
-// A surface for controls that no host has given one: it knows its size and draws nothing.
+class PictureBox;
+
+// Size of the box's surface in the units of its scale.
+Size surfaceScale(const PictureBox& box);
+
+// A surface for boxes that no host has given one: it knows its size and draws nothing.
 class NullSurface final : public Surface {
   public:
-    explicit NullSurface(const Control& owner) : owner_(owner) {}
-    double ScaleWidth() const override { return owner_.place().width; }
-    double ScaleHeight() const override { return owner_.place().height; }
+    explicit NullSurface(const PictureBox& owner) : owner_(owner) {}
+    double ScaleWidth() const override { return surfaceScale(owner_).width; }
+    double ScaleHeight() const override { return surfaceScale(owner_).height; }
     void Clear() override {}
     void Line(Point, Point, Color, double) override {}
     void Box(Point, Point, Color) override {}
@@ -22,9 +27,10 @@ class NullSurface final : public Surface {
     void Polygon(std::span<const Point>, Color) override {}
     void Text(Point, std::string_view, const FontSpec&, Color) override {}
     void Copy(const PicturePtr&, Point) override {}
+    void StretchBlt(const Rect&, const PicturePtr&, const Rect&, RasterOp) override {}
 
   private:
-    const Control& owner_;
+    const PictureBox& owner_;
 };
 
 // A picture with drawing into it.
@@ -39,9 +45,14 @@ class PictureBox final : public Control {
     void setPicture(PicturePtr picture) { assign(picture_, std::move(picture), Aspect::Picture); }
     Color backcolor() const { return backColor_; }
     void setBackColor(Color color) { assign(backColor_, color, Aspect::Colours); }
-    // Shows what lies behind where nothing is drawn, and lets clicks through.
+    // Shows what lies behind where nothing is drawn, and lets clicks through unless it waits for
+    // them itself.
     bool overlay() const { return overlay_; }
     void setOverlay(bool overlay) { assign(overlay_, overlay, Aspect::Colours); }
+
+    // Units that the surface counts across the box; none (0 by 0) means design px.
+    Size scaleSize() const { return scaleSize_; }
+    void setScaleSize(Size units) { assign(scaleSize_, units, Aspect::Picture); }
 
     // Whoever draws calls drawn() once at the end of the drawing.
     Surface& surface() { return surface_ != nullptr ? *surface_ : none_; }
@@ -57,8 +68,14 @@ class PictureBox final : public Control {
     Surface* surface_ = nullptr;
     PicturePtr picture_;
     Color backColor_ = kWhite;
+    Size scaleSize_;
     bool overlay_ = false;
 };
+
+inline Size surfaceScale(const PictureBox& box) {
+    const bool units = box.scaleSize().width > 0 && box.scaleSize().height > 0;
+    return units ? box.scaleSize() : Size{box.place().width, box.place().height};
+}
 
 // Small picture from the icon library.
 class ctl_Image final : public Control {

@@ -16,6 +16,7 @@ class NumberService;
 class Packer;
 class PathService;
 class RandomSource;
+class ScreenCapture;
 class SoundBank;
 class SystemInfo;
 class WindowSystem;
@@ -30,6 +31,7 @@ struct CoreLibRoot {
     quendal::Graphics& Graphics;
     quendal::RandomSource& Random;
     quendal::WindowSystem& Windows;
+    quendal::ScreenCapture& Screen;
     // Ends the class names of stored objects.
     std::string classSuffix = "Quendal";
 };

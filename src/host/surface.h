@@ -1,5 +1,7 @@
-// What the logic draws on. Coordinates are design px of the surface, y downward; what lies outside
-// is cut off. No operation fails; none may allocate in a frame that draws what it drew before.
+// What the logic draws on. Coordinates are units of the surface's scale, by default design px, y
+// downward; what lies outside is cut off. Where a scale stretches the axes differently, circles
+// stay round and take the smaller stretch. No operation fails; none may allocate in a frame that
+// draws what it drew before.
 #pragma once
 
 #include "host/color.h"
@@ -13,6 +15,13 @@
 namespace quendal {
 
 enum class FillStyle { Solid = 0, None = 1 };
+
+// How the pixels of a copy meet those that are there.
+enum class RasterOp {
+    SrcCopy,  // the copy takes their place
+    SrcAnd,   // bit by bit and: white keeps, black blackens
+    SrcInvert // bit by bit exclusive or: onto black it puts the copy
+};
 
 class Surface {
   public:
@@ -34,6 +43,11 @@ class Surface {
     // A plain copy with the left upper corner at `place`; a null picture draws nothing. Parts of
     // the picture that are transparent stay untouched.
     virtual void Copy(const PicturePtr& picture, Point place) = 0;
+    // Stretches the part `from` of a picture, in its px, over the box `to`. What `from` has beyond
+    // the picture stays undrawn; a null picture and a box without width or height draw nothing.
+    // Parts of the picture that are transparent stay untouched.
+    virtual void StretchBlt(const Rect& to, const PicturePtr& picture, const Rect& from,
+                            RasterOp operation) = 0;
 
     void setFillStyle(FillStyle style) { fillStyle_ = style; }
     FillStyle fillStyle() const { return fillStyle_; }

@@ -39,6 +39,9 @@ class WindowSystem {
 
     // Screen in design units at the present scale.
     virtual Size screen() const = 0;
+    // Pixels of the screen for one design unit of the form as it is shown; 1 for a form that scales
+    // itself or isn't shown.
+    virtual double scaleOf(const Form& form) const = 0;
     virtual void setPointer(MousePointer pointer) = 0;
     // Flushes what must be kept and ends the process at once, at any depth of the stack.
     [[noreturn]] virtual void EndProcess() = 0;

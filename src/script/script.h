@@ -11,10 +11,18 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
 namespace quendal {
+
+// One form that is played alone, in place of the whole program.
+struct SingleFormSetting {
+    int line = 0;
+    std::string name;
+    std::vector<std::pair<std::string, std::string>> fields; // name and value
+};
 
 // The lines before "start".
 struct ScriptSettings {
@@ -26,6 +34,7 @@ struct ScriptSettings {
     Size screen{1366, 768};
     int sound = 0; // SoundOptions.Mode
     DecimalSign sign = DecimalSign::Comma;
+    std::optional<SingleFormSetting> form;
 };
 
 enum class Relation { Equal, Unequal, Near };

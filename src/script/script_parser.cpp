@@ -49,7 +49,8 @@ class ScriptReader {
             if (started_) {
                 return refuse("\"" + words[0] + "\" stands behind \"start\"");
             }
-            return readSetting(words, script.settings) || refuse("malformed \"" + words[0] + "\"");
+            return readSetting(words, number_, script.settings) ||
+                   refuse("malformed \"" + words[0] + "\"");
         }
         ScriptStep step{number_, std::string(line), {}};
         std::string why;

@@ -8,6 +8,8 @@ namespace quendal {
 
 namespace {
 
+constexpr const char* kForm = "form";
+
 bool readSeed(const Words& words, ScriptSettings& settings) {
     const std::string& text = words[1];
     const auto [end, fault] =
@@ -48,9 +50,19 @@ bool readLocale(const Words& words, ScriptSettings& settings) {
     return words[1] == "point" || words[1] == "comma";
 }
 
+// Fields and their values in turn.
+bool readForm(const Words& words, ScriptSettings& settings) {
+    SingleFormSetting form{.name = words[1]};
+    for (std::size_t i = 2; i + 1 < words.size(); i += 2) {
+        form.fields.emplace_back(words[i], words[i + 1]);
+    }
+    settings.form = std::move(form);
+    return !words[1].empty() && words.size() % 2 == 0;
+}
+
 struct SettingRow {
     const char* command;
-    std::size_t words; // the command included
+    std::size_t words; // the command included; of "form" the least
     bool (*read)(const Words& words, ScriptSettings& settings);
 };
 
@@ -75,6 +87,7 @@ const SettingRow kSettings[] = {
     {"size", 2, readSize},
     {"sound", 2, readSound},
     {"locale", 2, readLocale},
+    {kForm, 2, readForm},
 };
 
 const SettingRow* findSetting(const std::string& command) {
@@ -89,9 +102,18 @@ bool isSetting(const std::string& command) {
     return findSetting(command) != nullptr;
 }
 
-bool readSetting(const Words& words, ScriptSettings& settings) {
+bool readSetting(const Words& words, int line, ScriptSettings& settings) {
     const SettingRow* row = findSetting(words[0]);
-    return row != nullptr && words.size() == row->words && row->read(words, settings);
+    const bool form = words[0] == kForm;
+    const bool fits =
+        row != nullptr && (form ? words.size() >= row->words : words.size() == row->words);
+    if (!fits || !row->read(words, settings)) {
+        return false;
+    }
+    if (form) {
+        settings.form->line = line;
+    }
+    return true;
 }
 
 } // namespace quendal

@@ -15,7 +15,7 @@ bool readStep(const Words& words, StepKind& step, std::string& fault);
 
 // True when `command` is one of the settings that stand before "start".
 bool isSetting(const std::string& command);
-// False when the words behind the setting don't fit it.
-bool readSetting(const Words& words, ScriptSettings& settings);
+// False when the words behind the setting don't fit it. `line` is where it stands.
+bool readSetting(const Words& words, int line, ScriptSettings& settings);
 
 } // namespace quendal

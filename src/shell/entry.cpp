@@ -5,6 +5,7 @@
 #include "host/roots.h"
 #include "host/sound.h"
 #include "host/window_system.h"
+#include "particles/mdl_Capture.h"
 #include "shell/forms/frm_AppResource.h"
 #include "shell/forms/frm_AppSplash.h"
 #include "shell/forms/instances.h"
@@ -51,6 +52,17 @@ void presetSession() {
     session().SessionRestart = false;
 }
 
+void setUpSession(const std::string& commandLine) {
+    HostApp().SetCommandLine(commandLine);
+    tellProduct();
+    presetSession();
+}
+
+void fillBuffers() {
+    fillPictureBuffers(appResource());
+    setCaptureBuffer(&appResource().pic_Capture(0));
+}
+
 void openWorkbench(int code) {
     for (const WorkbenchRow& row : kWorkbenches) {
         if (row.code == code) {
@@ -87,12 +99,18 @@ void runSession(const std::string& commandLine) {
     session().SessionChartFactory = &HostApp().Calculator.ChartFactory();
     CoreLib().Windows.Show(appSplash());
     CoreLib().Windows.DoEvents();
-    HostApp().SetCommandLine(commandLine);
-    tellProduct();
-    presetSession();
+    setUpSession(commandLine);
     CoreLib().Clock.SleepMs(kSplashMs);
-    fillPictureBuffers(appResource());
+    fillBuffers();
     runRounds();
+    endProgram();
+}
+
+void runSingleForm(Form& form, const std::string& commandLine) {
+    session().SessionChartFactory = &HostApp().Calculator.ChartFactory();
+    setUpSession(commandLine);
+    fillBuffers();
+    CoreLib().Windows.ShowModal(form);
     endProgram();
 }
 

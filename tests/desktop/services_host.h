@@ -18,6 +18,7 @@ namespace quendal::test {
 class PumpingWindows final : public WindowSystem {
   public:
     Size screen() const override { return {1366, 768}; }
+    double scaleOf(const Form&) const override { return 1; }
     void setPointer(MousePointer) override {}
     [[noreturn]] void EndProcess() override { std::abort(); }
 
@@ -70,8 +71,8 @@ class ServiceHost {
     FakeHost fake;
     DesktopClock clock;
     PumpingWindows windows;
-    CoreLibRoot core{clock,      fake.system,   fake.numbers, fake.boxes,
-                     fake.files, fake.graphics, fake.random,  windows};
+    CoreLibRoot core{clock,         fake.system, fake.numbers, fake.boxes,  fake.files,
+                     fake.graphics, fake.random, windows,      fake.capture};
     ObserverLink link;
     ScriptedObserver observer;
 };

@@ -6,6 +6,7 @@
 #include "desktop/gallery_form.h"
 #include "desktop/script/desktop_script_actor.h"
 #include "desktop/windows/widget_peer.h"
+#include "host/clock.h"
 #include "host/event_feed.h"
 #include "host/virtual_clock.h"
 
@@ -23,23 +24,40 @@ namespace quendal::test {
 // Performs one step at each pump; when none is left, takes the topmost form off the screen.
 class Steps final : public EventFeed {
   public:
-    void add(std::function<void()> step) { steps_.push_back(std::move(step)); }
+    void add(std::function<void()> step) { steps_.push_back({std::move(step), {}}); }
+    // Lets time pass until `ready`; after a minute the step comes all the same.
+    void addWhen(std::function<bool()> ready, std::function<void()> step) {
+        steps_.push_back({std::move(step), std::move(ready)});
+    }
     void deliver() override {
+        if (!ready()) {
+            return;
+        }
+        waits_ = 0;
         if (steps_.empty()) {
             if (CoreLib().Windows.top() != nullptr) {
                 CoreLib().Windows.Unload(*CoreLib().Windows.top());
             }
             return;
         }
-        const auto step = std::move(steps_.front());
+        const Step step = std::move(steps_.front());
         steps_.pop_front();
-        step();
+        step.work();
     }
-    void programWaits() override {}
-    double due() const override { return 0; }
+    void programWaits() override { ++waits_; }
+    double due() const override { return ready() ? 0 : CoreLib().Clock.Now() + 0.01; }
 
   private:
-    std::deque<std::function<void()>> steps_;
+    struct Step {
+        std::function<void()> work;
+        std::function<bool()> ready; // empty: at once
+    };
+    bool ready() const {
+        return steps_.empty() || !steps_.front().ready || waits_ > 6000 || steps_.front().ready();
+    }
+
+    std::deque<Step> steps_;
+    int waits_ = 0;
 };
 
 inline CommandLine testCommandLine() {

@@ -4,6 +4,7 @@
 #include "host/clock.h"
 #include "host/graphics.h"
 #include "host/log.h"
+#include "host/screen_capture.h"
 #include "host/system_info.h"
 
 #include <gtest/gtest.h>
@@ -51,6 +52,71 @@ TEST(HeadlessHost, FormsThatScaleThemselvesAreShownInPixels) {
     CoreLib().Windows.Unload(form);
 }
 
+TEST(HeadlessHost, TellsTheScaleOfAForm) {
+    Playground ground;
+    SmallForm form; // 1000 x 500 on 1366 x 768
+    SmallDialog dialog;
+    const WindowSystem& windows = CoreLib().Windows;
+    EXPECT_EQ(windows.scaleOf(form), 1); // not shown
+    CoreLib().Windows.Show(form);
+    EXPECT_DOUBLE_EQ(windows.scaleOf(form), 1.366);
+    CoreLib().Windows.Show(dialog);
+    EXPECT_EQ(windows.scaleOf(dialog), 1);
+    dialog.moveTo({10, 10, 300, 200});
+    EXPECT_DOUBLE_EQ(windows.scaleOf(dialog), 1.366);
+    CoreLib().Windows.UnloadAll(nullptr);
+    form.setScalesItself(true);
+    CoreLib().Windows.Show(form);
+    EXPECT_EQ(windows.scaleOf(form), 1);
+    CoreLib().Windows.Unload(form);
+}
+
+// Runs `look` from a timer of the form while it is shown modally.
+void whileShown(SmallForm& form, const std::function<void()>& look) {
+    form.tmr_Tick.onTimer = [&] {
+        look();
+        CoreLib().Windows.Unload(form);
+    };
+    form.tmr_Tick.setEnabled(true);
+    CoreLib().Windows.ShowModal(form);
+}
+
+TEST(HeadlessCapture, KnowsWhereTheFormInFrontStands) {
+    Playground ground;
+    const ScreenCapture& screen = CoreLib().Screen;
+    EXPECT_EQ(screen.GetForegroundWindow(), ScreenCapture::kNoWindow);
+    EXPECT_EQ(screen.windowRect(screen.GetDesktopWindow()), (PixelRect{0, 0, 1365, 767}));
+    SmallForm form;
+    whileShown(form, [&] {
+        const auto front = screen.GetForegroundWindow();
+        ASSERT_NE(front, ScreenCapture::kNoWindow);
+        EXPECT_EQ(screen.windowRect(front), (PixelRect{0, 0, 1365, 767}));
+        const auto child = screen.GetWindow(front, ScreenCapture::kFirstChild);
+        EXPECT_NE(child, ScreenCapture::kNoWindow);
+        EXPECT_NE(child, front);
+        EXPECT_EQ(screen.GetWindow(front, 4), ScreenCapture::kNoWindow);
+        EXPECT_EQ(screen.GetWindow(child, ScreenCapture::kFirstChild), ScreenCapture::kNoWindow);
+        form.setWindowState(WindowState::Normal);
+        form.moveTo({100, 50, 600, 400});
+        EXPECT_EQ(screen.windowRect(front), (PixelRect{137, 68, 955, 614}));
+    });
+    EXPECT_EQ(screen.GetForegroundWindow(), ScreenCapture::kNoWindow);
+}
+
+TEST(HeadlessCapture, GivesPicturesOfTheRightSize) {
+    Playground ground;
+    const ScreenCapture& screen = CoreLib().Screen;
+    const PicturePtr part = screen.grab(screen.GetDesktopWindow(), {10, 20, 109, 69});
+    ASSERT_NE(part, nullptr);
+    EXPECT_EQ(part->width(), 100);
+    EXPECT_EQ(part->height(), 50);
+    EXPECT_EQ(screen.grab(screen.GetDesktopWindow(), {10, 20, 9, 69}), nullptr);
+    EXPECT_EQ(screen.grab(screen.GetDesktopWindow(), {-2147483647, 0, 2147483647, 9}), nullptr);
+    EXPECT_EQ(screen.grab(ScreenCapture::kNoWindow, {0, 0, 9, 9}), nullptr);
+    EXPECT_EQ(screen.grab(99, {0, 0, 9, 9}), nullptr);
+    EXPECT_EQ(screen.grab(screen.GetForegroundWindow(), {0, 0, 9, 9}), nullptr);
+}
+
 TEST(HeadlessHost, CountsWhatIsDrawn) {
     Playground ground;
     SmallForm form;
@@ -60,9 +126,19 @@ TEST(HeadlessHost, CountsWhatIsDrawn) {
     surface.Clear();
     surface.Circle({5, 5}, 3, kBlack);
     surface.Copy(nullptr, {0, 0});
+    surface.StretchBlt({0, 0, 9, 9}, nullptr, {0, 0, 9, 9}, RasterOp::SrcCopy);
     EXPECT_EQ(ground.host.windows().drawn().circles, 1);
     EXPECT_EQ(ground.host.windows().drawn().clears, 1);
     EXPECT_EQ(ground.host.windows().drawn().copies, 0);
+    const PicturePtr picture = CoreLib().Screen.grab(CoreLib().Screen.GetDesktopWindow(), {});
+    EXPECT_EQ(picture, nullptr);
+    surface.StretchBlt({0, 0, 9, 9},
+                       CoreLib().Screen.grab(CoreLib().Screen.GetDesktopWindow(), {0, 0, 9, 9}),
+                       {0, 0, 9, 9}, RasterOp::SrcAnd);
+    EXPECT_EQ(ground.host.windows().drawn().copies, 1);
+    form.pic_Field.setScaleSize({28, 10});
+    EXPECT_EQ(surface.ScaleWidth(), 28);
+    EXPECT_EQ(surface.ScaleHeight(), 10);
     CoreLib().Windows.Unload(form);
 }
 

@@ -30,6 +30,24 @@ TEST(ScriptWords, RefuseBrokenQuotes) {
     }
 }
 
+TEST(ScriptParser, ReadsAFormThatIsPlayedAlone) {
+    ScriptFault fault;
+    const auto script =
+        parseScript("seed 2\nform frm_AppMagnify ShowAcid true SourceLeft 10\nstart\n", fault);
+    ASSERT_TRUE(script) << fault.message;
+    ASSERT_TRUE(script->settings.form);
+    EXPECT_EQ(script->settings.form->line, 2);
+    EXPECT_EQ(script->settings.form->name, "frm_AppMagnify");
+    using Fields = std::vector<std::pair<std::string, std::string>>;
+    EXPECT_EQ(script->settings.form->fields, (Fields{{"ShowAcid", "true"}, {"SourceLeft", "10"}}));
+    EXPECT_FALSE(parseScript("start\n", fault)->settings.form);
+    for (const char* broken : {"form", "form \"\"", "form frm_X Field", "form frm_X A 1 B"}) {
+        EXPECT_FALSE(parseScript(std::string(broken) + "\nstart\n", fault)) << broken;
+        EXPECT_EQ(fault.message, "malformed \"form\"");
+        EXPECT_EQ(fault.line, 1);
+    }
+}
+
 TEST(ScriptParser, ReadsSettings) {
     ScriptFault fault;
     const auto script = parseScript("\xef\xbb\xbf# a comment\r\n"

@@ -1,5 +1,7 @@
 #include "headless/play.h"
 #include "headless/small_forms.h"
+#include "host/roots.h"
+#include "host/window_system.h"
 
 namespace quendal::test {
 namespace {
@@ -60,6 +62,43 @@ TEST(ScriptActions, PressTheMouse) {
     expectHeld("click pic_Field\nexpect form.sLast == \"50 25 left\"");
     expectHeld("mouse pic_Field 3 4 right\nexpect form.sLast == \"3 4 right\"");
     expectHeld("mouse frm_Small 7 8\nexpect form.sLast == \"form 7 8\"");
+}
+
+// Plays against the small form with a picture in front of its field.
+Played playBehindPicture(const std::string& lines, const std::function<void(PictureBox&)>& setUp) {
+    return play("start\n" + lines, [&] {
+        SmallForm form;
+        PictureBox front(form, "pic_Front");
+        front.setPlace(40, 30, 60, 30);
+        front.setOverlay(true);
+        setUp(front);
+        CoreLib().Windows.ShowModal(form);
+    });
+}
+
+TEST(ScriptActions, APictureThatNobodyWatchesLetsClicksThrough) {
+    const auto nothing = [](PictureBox&) {};
+    const Played field =
+        playBehindPicture("click pic_Front\nexpect form.sLast == \"50 25 left\"", nothing);
+    EXPECT_EQ(field.status, 0) << field.errors; // the field beneath is pressed
+    const auto beside = [](PictureBox& front) { front.setPlace(500, 300, 20, 40); };
+    const Played form =
+        playBehindPicture("click pic_Front\nexpect form.sLast == \"form 510 320\"", beside);
+    EXPECT_EQ(form.status, 0) << form.errors;
+}
+
+TEST(ScriptActions, APictureThatIsWatchedIsPressedInItsScale) {
+    const auto watch = [](PictureBox& front) {
+        front.setScaleSize({10, 20});
+        front.onMouse = [&front](double x, double y, MouseButton) {
+            static_cast<SmallForm&>(front.form()).sLast =
+                std::to_string(int(x)) + "/" + std::to_string(int(y));
+        };
+    };
+    const Played middle = playBehindPicture("click pic_Front\nexpect form.sLast == 5/10", watch);
+    EXPECT_EQ(middle.status, 0) << middle.errors;
+    const Played place = playBehindPicture("mouse pic_Front 3 4\nexpect form.sLast == 3/4", watch);
+    EXPECT_EQ(place.status, 0) << place.errors;
 }
 
 TEST(ScriptActions, AreRefusedWhereALearnerCouldNot) {

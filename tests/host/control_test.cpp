@@ -258,6 +258,23 @@ TEST_F(Controls, MouseGoesToItsHandlerOrIsAClick) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(Controls, PictureBoxesCountDesignPxUnlessTheyHaveUnits) {
+    PictureBox box(form, "pic_Extra");
+    box.setPlace(10, 20, 300, 150);
+    EXPECT_EQ(surfaceScale(box), (Size{300, 150}));
+    EXPECT_EQ(box.surface().ScaleWidth(), 300);
+    box.setScaleSize({280, 249});
+    EXPECT_EQ(surfaceScale(box), (Size{280, 249}));
+    EXPECT_EQ(box.surface().ScaleWidth(), 280);
+    EXPECT_EQ(box.surface().ScaleHeight(), 249);
+    box.setPlace(0, 0, 600, 150);
+    EXPECT_EQ(box.surface().ScaleWidth(), 280);
+    box.setScaleSize({0, 249});
+    EXPECT_EQ(surfaceScale(box), (Size{600, 150}));
+    // Nobody shows it: drawing is borne.
+    box.surface().StretchBlt({0, 0, 9, 9}, nullptr, {0, 0, 9, 9}, RasterOp::SrcAnd);
+}
+
 TEST_F(Controls, PictureBoxesEndTheirLifeToken) {
     auto box = std::make_unique<PictureBox>(form, "pic_Extra");
     const std::weak_ptr<const void> life = box->life();

@@ -1,4 +1,5 @@
 // A settled beaker's frame asks for no memory. This binary counts every allocation.
+#include "counted_allocations.h"
 #include "host/surface.h"
 #include "particles/cls_Molecules.h"
 #include "particles/grid_tables.h"
@@ -7,42 +8,6 @@
 #include "support/fake_roots.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <new>
-
-namespace {
-
-long allocations = 0;
-
-void* counted(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-} // namespace
-
-void* operator new(std::size_t size) {
-    return counted(size);
-}
-void* operator new[](std::size_t size) {
-    return counted(size);
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 namespace quendal::test {
 namespace {
@@ -58,6 +23,7 @@ class BlindSurface final : public Surface {
     void Polygon(std::span<const Point>, Color) override {}
     void Text(Point, std::string_view, const FontSpec&, Color) override {}
     void Copy(const PicturePtr&, Point) override {}
+    void StretchBlt(const Rect&, const PicturePtr&, const Rect&, RasterOp) override {}
 
     long shapes = 0;
 };

@@ -63,6 +63,7 @@ TEST_F(DialogHelp, LoadsItsFileAndTakesNineTenthsOfTheScreen) {
 class ResizingWindows final : public WindowSystem {
   public:
     Size screen() const override { return {1366, 768}; }
+    double scaleOf(const Form&) const override { return 1; }
     void setPointer(MousePointer) override {}
     [[noreturn]] void EndProcess() override { throw ProcessEnded{}; }
     void deliverEvents() override {}

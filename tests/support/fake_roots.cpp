@@ -115,6 +115,31 @@ void FakeWindows::realise(Form& form, bool /*modal*/) {
     resize(form, form.designSize());
 }
 
+ScreenCapture::WindowHandle FakeCapture::GetWindow(WindowHandle window, int relation) const {
+    const bool known = hasChild && hasFront && window == kFront && relation == kFirstChild;
+    return known ? kChild : kNoWindow;
+}
+
+PixelRect FakeCapture::windowRect(WindowHandle window) const {
+    if (window == kDesktop && hasDesktop) {
+        return desktop;
+    }
+    if (window == kFront && hasFront) {
+        return front;
+    }
+    return window == kChild && hasFront && hasChild ? child : PixelRect{};
+}
+
+PicturePtr FakeCapture::grab(WindowHandle window, const PixelRect& part) const {
+    grabs.push_back({window, part});
+    const PixelRect place = windowRect(window);
+    const bool there =
+        place.right >= place.left && part.right >= part.left && part.bottom >= part.top;
+    return there && givesPictures ? std::make_shared<BlankPicture>(part.right - part.left + 1,
+                                                                   part.bottom - part.top + 1)
+                                  : nullptr;
+}
+
 std::string FakeHostControl::Query(const std::string& section, const std::string& verb,
                                    const std::string& key) {
     if (section != kControlSection || verb != "GET") {

@@ -12,6 +12,7 @@
 #include "host/path_service.h"
 #include "host/random_source.h"
 #include "host/roots.h"
+#include "host/screen_capture.h"
 #include "host/sound.h"
 #include "host/system_info.h"
 #include "host/window_system.h"
@@ -98,10 +99,12 @@ class FakeWindows final : public WindowSystem {
     explicit FakeWindows(ManualClock& clock) : clock_(clock) {}
 
     Size screen() const override { return size; }
+    double scaleOf(const Form& form) const override { return form.scalesItself() ? 1 : scale; }
     void setPointer(MousePointer shape) override { pointer = shape; }
     [[noreturn]] void EndProcess() override { throw ProcessEnded{}; }
 
     Size size{1366, 768};
+    double scale = 1; // of forms that don't scale themselves
     MousePointer pointer = MousePointer::Normal;
     std::deque<std::function<void()>> events; // one is taken by each turn of the pump
 
@@ -115,6 +118,36 @@ class FakeWindows final : public WindowSystem {
 
   private:
     ManualClock& clock_;
+};
+
+// A screen with a window in front that has a child; each of the three can be taken away. Pictures
+// are blank.
+class FakeCapture final : public ScreenCapture {
+  public:
+    static constexpr WindowHandle kDesktop = 11;
+    static constexpr WindowHandle kFront = 12;
+    static constexpr WindowHandle kChild = 13;
+
+    struct Grab {
+        WindowHandle window = kNoWindow;
+        PixelRect part;
+        friend bool operator==(const Grab&, const Grab&) = default;
+    };
+
+    WindowHandle GetDesktopWindow() const override { return hasDesktop ? kDesktop : kNoWindow; }
+    WindowHandle GetForegroundWindow() const override { return hasFront ? kFront : kNoWindow; }
+    WindowHandle GetWindow(WindowHandle window, int relation) const override;
+    PixelRect windowRect(WindowHandle window) const override;
+    PicturePtr grab(WindowHandle window, const PixelRect& part) const override;
+
+    bool hasDesktop = true;
+    bool hasFront = true;
+    bool hasChild = true;
+    bool givesPictures = true;
+    PixelRect desktop{0, 0, 1365, 767};
+    PixelRect front{0, 0, 1365, 767};
+    PixelRect child{0, 30, 1365, 767};
+    mutable std::vector<Grab> grabs; // also those that gave no picture
 };
 
 class FakePaths final : public PathService {
@@ -213,7 +246,8 @@ class FakeHost {
     FakeGraphics graphics;
     SeededRandom random;
     FakeWindows windows{clock};
-    CoreLibRoot coreLib{clock, system, numbers, boxes, files, graphics, random, windows};
+    FakeCapture capture;
+    CoreLibRoot coreLib{clock, system, numbers, boxes, files, graphics, random, windows, capture};
 
     FakePaths paths;
     RecordingSounds sounds;

@@ -24,6 +24,14 @@ class RecordingSurface final : public Surface {
         friend bool operator==(const BoxMark&, const BoxMark&) = default;
     };
 
+    struct StretchMark {
+        Rect to;
+        PicturePtr picture;
+        Rect from;
+        RasterOp operation = RasterOp::SrcCopy;
+        friend bool operator==(const StretchMark&, const StretchMark&) = default;
+    };
+
     RecordingSurface(double width, double height) : width_(width), height_(height) {}
 
     double ScaleWidth() const override { return width_; }
@@ -31,6 +39,8 @@ class RecordingSurface final : public Surface {
     void Clear() override {
         circles.clear();
         boxes.clear();
+        stretches.clear();
+        copies.clear();
         order.clear();
     }
     void Line(Point, Point, Color, double) override { order += 'l'; }
@@ -44,11 +54,22 @@ class RecordingSurface final : public Surface {
     }
     void Polygon(std::span<const Point>, Color) override { order += 'p'; }
     void Text(Point, std::string_view, const FontSpec&, Color) override { order += 't'; }
-    void Copy(const PicturePtr&, Point) override { order += 'i'; }
+    void Copy(const PicturePtr& picture, Point) override {
+        copies.push_back(picture);
+        order += 'i';
+    }
+    void StretchBlt(const Rect& to, const PicturePtr& picture, const Rect& from,
+                    RasterOp operation) override {
+        stretches.push_back({to, picture, from, operation});
+        order += 's';
+    }
 
     std::vector<CircleMark> circles;
     std::vector<BoxMark> boxes;
-    std::string order; // one letter for each operation: line, box, circle, polygon, text, image
+    std::vector<StretchMark> stretches;
+    std::vector<PicturePtr> copies;
+    // One letter for each operation: line, box, circle, polygon, text, image, stretched image.
+    std::string order;
 
   private:
     double width_;

@@ -1,5 +1,6 @@
 #include "desktop/pictures/desktop_picture.h"
 
+#include "desktop/pictures/stretch.h"
 #include "host/log.h"
 
 #include <algorithm>
@@ -9,52 +10,139 @@ namespace quendal {
 
 namespace {
 
-constexpr std::size_t kKeptScales = 3;
+constexpr std::size_t kKeptSizes = 3;
+constexpr std::size_t kKeptCuts = 4;
 constexpr double kTwinFrom = 1.05; // below it the file itself has all the detail
+constexpr double kHalfFrom =
+    0.5; // smooth copies look at two pixels only: beyond it they'd skip some
 
 // The format that is copied fastest.
 QImage::Format formatFor(const QImage& image) {
     return image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
 }
 
+QImage readyImage(const QImage& image) {
+    return image.convertToFormat(formatFor(image));
+}
+
+QRectF scaled(const QRectF& box, double across, double down) {
+    return {box.x() * across, box.y() * down, box.width() * across, box.height() * down};
+}
+
+// Room for one more; the oldest goes.
+template <class Kept>
+void makeRoom(std::vector<Kept>& kept, std::size_t most) {
+    if (kept.size() >= most) {
+        kept.erase(kept.begin());
+    }
+}
+
 } // namespace
 
 DesktopPicture::DesktopPicture(QImage image, QString twin)
-    : image_(image.convertToFormat(formatFor(image))), twin_(std::move(twin)) {}
+    : image_(readyImage(image)), twinFile_(std::move(twin)) {}
+
+std::shared_ptr<const DesktopPicture> DesktopPicture::withDetail(QImage image,
+                                                                 const QImage& sharper) {
+    auto picture = std::make_shared<DesktopPicture>(std::move(image));
+    picture->twin_ = readyImage(sharper);
+    return picture;
+}
+
+QImage DesktopPicture::loadTwin() const {
+    if (!twin_.isNull() || twinFile_.isEmpty()) {
+        return twin_;
+    }
+    const QImage twin(twinFile_);
+    if (twin.isNull()) {
+        logLine("picture broken: " + twinFile_.toStdString());
+        twinFile_.clear(); // the file itself has to do; said once
+        return {};
+    }
+    return readyImage(twin);
+}
 
 QImage DesktopPicture::source(double scale) const {
-    if (scale > kTwinFrom && !twin_.isEmpty()) {
-        const QImage twin(twin_);
-        if (!twin.isNull()) {
-            return twin.convertToFormat(formatFor(twin));
-        }
-        logLine("picture broken: " + twin_.toStdString());
-        twin_.clear(); // the file itself has to do; said once
-    }
-    return image_;
+    const QImage twin = scale > kTwinFrom ? loadTwin() : QImage();
+    return twin.isNull() ? image_ : twin;
 }
 
 const QImage& DesktopPicture::prepared(double scale) const {
-    const auto known = std::find_if(prepared_.begin(), prepared_.end(), [&](const Prepared& p) {
-        return std::abs(p.scale - scale) < 1e-6;
-    });
+    return prepared(QSize(std::max(1, static_cast<int>(std::lround(width() * scale))),
+                          std::max(1, static_cast<int>(std::lround(height() * scale)))));
+}
+
+const QImage& DesktopPicture::prepared(QSize size) const {
+    const auto known = std::find_if(prepared_.begin(), prepared_.end(),
+                                    [&](const Prepared& p) { return p.size == size; });
     if (known != prepared_.end()) {
         return known->image;
     }
-    if (prepared_.size() >= kKeptScales) {
-        prepared_.erase(prepared_.begin());
-    }
-    const QSize size(std::max(1, static_cast<int>(std::lround(width() * scale))),
-                     std::max(1, static_cast<int>(std::lround(height() * scale))));
-    prepared_.push_back({scale, size == image_.size() ? image_ : inSize(size)});
+    makeRoom(prepared_, kKeptSizes);
+    prepared_.push_back({size, size == image_.size() ? image_ : inSize(size)});
     return prepared_.back().image;
 }
 
 QImage DesktopPicture::inSize(QSize devicePixels) const {
     const double scale = static_cast<double>(devicePixels.width()) / std::max(1, width());
-    const QImage scaled =
-        source(scale).scaled(devicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return scaled.convertToFormat(formatFor(scaled));
+    return readyImage(
+        source(scale).scaled(devicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+const QImage& DesktopPicture::half(std::size_t times) const {
+    while (halves_.size() < times) {
+        const QImage& larger = halves_.empty() ? image_ : halves_.back();
+        const QSize size = (larger.size() / 2).expandedTo({1, 1});
+        halves_.push_back(
+            readyImage(larger.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+    }
+    return halves_[times - 1];
+}
+
+DesktopPicture::Detail DesktopPicture::detail(const QRectF& from, double scale) const {
+    if (scale > kTwinFrom && twin_.isNull()) {
+        twin_ = loadTwin();
+    }
+    std::size_t halvings = 0;
+    for (double left = scale; left < kHalfFrom && halvings < 16; left *= 2) {
+        ++halvings;
+    }
+    const QImage& image = scale > kTwinFrom && !twin_.isNull() ? twin_
+                          : halvings > 0                       ? half(halvings)
+                                                               : image_;
+    return {image, scaled(from, static_cast<double>(image.width()) / width(),
+                          static_cast<double>(image.height()) / height())};
+}
+
+QImage DesktopPicture::makeCut(const QRectF& from, QSize size, RasterOp operation) const {
+    const double scale = std::max(size.width() / from.width(), size.height() / from.height());
+    const Detail best = detail(from, scale);
+    if (best.from == QRectF(best.image.rect()) && best.image.size() == size) {
+        return best.image;
+    }
+    switch (operation) {
+    case RasterOp::SrcAnd:
+        return maskCopy(best.image, best.from, size);
+    case RasterOp::SrcInvert:
+        return invertCopy(best.image, best.from, size);
+    case RasterOp::SrcCopy:
+        break;
+    }
+    return readyImage(best.image.copy(best.from.toAlignedRect())
+                          .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+const QImage& DesktopPicture::cut(const QRectF& from, QSize devicePixels,
+                                  RasterOp operation) const {
+    const auto known = std::find_if(cuts_.begin(), cuts_.end(), [&](const Cut& cut) {
+        return cut.from == from && cut.size == devicePixels && cut.operation == operation;
+    });
+    if (known != cuts_.end()) {
+        return known->image;
+    }
+    makeRoom(cuts_, kKeptCuts);
+    cuts_.push_back({from, devicePixels, operation, makeCut(from, devicePixels, operation)});
+    return cuts_.back().image;
 }
 
 } // namespace quendal

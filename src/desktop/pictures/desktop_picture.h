@@ -3,10 +3,13 @@
 #pragma once
 
 #include "host/picture.h"
+#include "host/surface.h"
 
 #include <QImage>
+#include <QRectF>
 #include <QString>
 
+#include <memory>
 #include <vector>
 
 namespace quendal {
@@ -15,26 +18,54 @@ class DesktopPicture final : public Picture {
   public:
     // `twin` is the file with the same picture three times its size, empty when there is none.
     explicit DesktopPicture(QImage image, QString twin = {});
+    // `sharper` is the same picture in more pixels.
+    static std::shared_ptr<const DesktopPicture> withDetail(QImage image, const QImage& sharper);
 
     int width() const override { return image_.width(); }
     int height() const override { return image_.height(); }
+    // Nothing shows through.
+    bool opaque() const { return image_.format() == QImage::Format_RGB32; }
 
-    // The picture at `scale` device pixels for one design px. Made once a scale; a few scales are
+    // The picture at `scale` device pixels for one design px. Made once a size; a few sizes are
     // kept, because a picture may be used in two windows at the same time.
     const QImage& prepared(double scale) const;
+    const QImage& prepared(QSize devicePixels) const;
     // The same in any size, for headers and backdrops. Not kept.
     QImage inSize(QSize devicePixels) const;
 
+    // The picture in about as many pixels as `scale` asks for, and the px of `from` in it: the file
+    // itself, its twin, or smaller.
+    struct Detail {
+        const QImage& image;
+        QRectF from;
+    };
+    Detail detail(const QRectF& from, double scale) const;
+    // The part `from` in this size, for `operation`. The last ones are kept, for whoever asks
+    // again.
+    const QImage& cut(const QRectF& from, QSize devicePixels, RasterOp operation) const;
+
   private:
     struct Prepared {
-        double scale = 0;
+        QSize size;
         QImage image;
     };
+    struct Cut {
+        QRectF from;
+        QSize size;
+        RasterOp operation = RasterOp::SrcCopy;
+        QImage image;
+    };
+    QImage loadTwin() const;
     QImage source(double scale) const;
+    const QImage& half(std::size_t times) const;
+    QImage makeCut(const QRectF& from, QSize size, RasterOp operation) const;
 
     QImage image_;
-    mutable QString twin_; // emptied when the file turns out to be broken
+    mutable QString twinFile_; // emptied when the file turns out to be broken
+    mutable QImage twin_;      // once it was needed for more than one copy
+    mutable std::vector<QImage> halves_;
     mutable std::vector<Prepared> prepared_;
+    mutable std::vector<Cut> cuts_;
 };
 
 } // namespace quendal

@@ -57,16 +57,58 @@ void DrawList::addText(DrawCommand command, std::string_view text, const FontSpe
     commands_.push_back(command);
 }
 
-void DrawList::append(const DrawList& other) {
-    for (const DrawCommand& command : other.commands_) {
-        if (command.kind == DrawCommand::Kind::Polygon) {
-            addPolygon(command, other.corners(command));
-        } else if (command.kind == DrawCommand::Kind::Text) {
-            addText(command, other.text(command), other.font(command));
-        } else {
-            add(command);
+void DrawList::append(const DrawList& other, std::size_t index) {
+    const DrawCommand& command = other.commands_[index];
+    if (command.kind == DrawCommand::Kind::Polygon) {
+        addPolygon(command, other.corners(command));
+    } else if (command.kind == DrawCommand::Kind::Text) {
+        addText(command, other.text(command), other.font(command));
+    } else {
+        add(command);
+    }
+}
+
+void DrawList::append(const DrawList& other, const QRectF& whole) {
+    for (std::size_t i = 0; i < other.size(); ++i) {
+        const QRectF covered = cover(other.commands_[i]);
+        if (!covered.isEmpty()) {
+            dropBeneath(covered, whole);
+        }
+        append(other, i);
+    }
+}
+
+void DrawList::dropBeneath(const QRectF& box, const QRectF& whole) {
+    const auto hidden = [&](std::size_t index) {
+        const QRectF own = cover(commands_[index]);
+        const QRectF place = (own.isEmpty() ? bounds(index) : own) & whole;
+        return place.isEmpty() || box.contains(place);
+    };
+    DrawList left;
+    for (std::size_t i = 0; i < size(); ++i) {
+        if (!hidden(i)) {
+            left.append(*this, i);
         }
     }
+    if (left.empty()) {
+        clear(); // and keep the memory
+    } else if (left.size() < size()) {
+        std::swap(*this, left);
+    }
+}
+
+QRectF DrawList::cover(const DrawCommand& command) {
+    if (!command.opaque) {
+        return {};
+    }
+    if (command.kind == DrawCommand::Kind::Stretch) {
+        return boxOf(command.a, command.b, 0);
+    }
+    // Its size in device pixels is rounded apart from its place, so that its far edges are certain
+    // only where it begins at 0.
+    const double width = command.picture->width() - (command.a.x == 0 ? 0 : 1);
+    const double height = command.picture->height() - (command.a.y == 0 ? 0 : 1);
+    return {command.a.x, command.a.y, width, height};
 }
 
 std::span<const Point> DrawList::corners(const DrawCommand& command) const {
@@ -101,6 +143,8 @@ QRectF DrawList::bounds(std::size_t index) const {
                    ? QRectF()
                    : QRectF(command.a.x - 1, command.a.y - 1, command.picture->width() + 2,
                             command.picture->height() + 2);
+    case DrawCommand::Kind::Stretch:
+        return boxOf(command.a, command.b, 0.5);
     }
     return {};
 }
@@ -132,7 +176,8 @@ bool DrawList::same(std::size_t index, const DrawList& other) const {
     case DrawCommand::Kind::Text:
         return text(one) == other.text(two) && font(one) == other.font(two);
     case DrawCommand::Kind::Copy:
-        return one.picture == two.picture;
+    case DrawCommand::Kind::Stretch:
+        return one.picture == two.picture && one.from == two.from && one.operation == two.operation;
     default:
         return true;
     }

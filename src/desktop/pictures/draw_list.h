@@ -1,5 +1,6 @@
-// What was drawn on a surface since it was last cleared, in design px. Kept so that a picture can
-// be drawn again at another scale and so that a frame that shows nothing new costs nothing.
+// What was drawn on a surface since it was last cleared, in the surface's units. Kept so that a
+// picture can be drawn again at another scale and so that a frame that shows nothing new costs
+// nothing.
 #pragma once
 
 #include "host/surface.h"
@@ -14,7 +15,7 @@
 namespace quendal {
 
 struct DrawCommand {
-    enum class Kind : std::uint8_t { Line, Box, Circle, Polygon, Text, Copy };
+    enum class Kind : std::uint8_t { Line, Box, Circle, Polygon, Text, Copy, Stretch };
 
     Kind kind = Kind::Line;
     FillStyle fillStyle = FillStyle::Solid;
@@ -27,6 +28,9 @@ struct DrawCommand {
     std::size_t count = 0;
     std::size_t font = 0;
     PicturePtr picture{};
+    Rect from{}; // of the picture, for Stretch; a and b are two corners of the box it fills
+    RasterOp operation = RasterOp::SrcCopy;
+    bool opaque = false; // nothing of what lies under it is left
 };
 
 class DrawList {
@@ -39,7 +43,9 @@ class DrawList {
     void add(const DrawCommand& command) { commands_.push_back(command); }
     void addPolygon(DrawCommand command, std::span<const Point> corners);
     void addText(DrawCommand command, std::string_view text, const FontSpec& font);
-    void append(const DrawList& other);
+    // What a picture of `other` covers wholly goes, so that whoever draws whole frames without
+    // clearing doesn't pile them up. `whole` is the surface.
+    void append(const DrawList& other, const QRectF& whole);
 
     const std::vector<DrawCommand>& commands() const { return commands_; }
     std::span<const Point> corners(const DrawCommand& command) const;
@@ -55,6 +61,10 @@ class DrawList {
 
   private:
     bool same(std::size_t index, const DrawList& other) const;
+    // Place that an opaque picture fills for certain; empty for all else.
+    static QRectF cover(const DrawCommand& command);
+    void append(const DrawList& other, std::size_t index);
+    void dropBeneath(const QRectF& box, const QRectF& whole);
 
     std::vector<DrawCommand> commands_;
     std::vector<Point> points_;

@@ -1,7 +1,6 @@
 #include "desktop/pictures/picture_surface.h"
 
 #include "desktop/pictures/desktop_picture.h"
-#include "desktop/pictures/stamp_cache.h"
 #include "desktop/windows/look.h"
 #include "host/pictures.h"
 
@@ -17,122 +16,25 @@ namespace {
 // Whoever never clears its picture piles up commands; beyond this they are fixed as pixels.
 constexpr std::size_t kMostCommands = 4096;
 
-StampCache& stamps() {
-    static StampCache cache;
-    return cache;
-}
-
-// Paints commands at a scale. A point of the logic is the middle of a design px.
-class CommandPainter {
-  public:
-    CommandPainter(QPainter& painter, const DrawList& list, double scale)
-        : painter_(painter), list_(list), scale_(scale) {}
-
-    void paint(const DrawCommand& command) {
-        switch (command.kind) {
-        case DrawCommand::Kind::Line:
-            line(command);
-            break;
-        case DrawCommand::Kind::Box:
-            box(command);
-            break;
-        case DrawCommand::Kind::Circle:
-            stamps().circle(painter_, middle(command.a),
-                            {command.size * scale_, std::max(1.0, scale_), command.color,
-                             command.fillColor, command.fillStyle});
-            break;
-        case DrawCommand::Kind::Polygon:
-            polygon(command);
-            break;
-        case DrawCommand::Kind::Text:
-            stamps().text(painter_, {command.a.x * scale_, command.a.y * scale_},
-                          list_.text(command), list_.font(command), scale_, command.color);
-            break;
-        case DrawCommand::Kind::Copy:
-            copy(command);
-            break;
-        }
-    }
-
-  private:
-    QPointF middle(Point point) const {
-        return {(point.x + 0.5) * scale_, (point.y + 0.5) * scale_};
-    }
-
-    void line(const DrawCommand& command) {
-        const QColor color = look::toQColor(command.color);
-        const QPointF from = middle(command.a);
-        const QPointF to = middle(command.b);
-        const double width = std::max(1.0, std::round(command.size * scale_));
-        // Upright and level lines on whole pixels, so that scales and grids stay sharp.
-        if (command.a.y == command.b.y) {
-            const double left = std::round(std::min(from.x(), to.x()));
-            const double right = std::round(std::max(from.x(), to.x()));
-            painter_.fillRect(QRectF(left, std::round(from.y() - width / 2), right - left, width),
-                              color);
-        } else if (command.a.x == command.b.x) {
-            const double top = std::round(std::min(from.y(), to.y()));
-            const double bottom = std::round(std::max(from.y(), to.y()));
-            painter_.fillRect(QRectF(std::round(from.x() - width / 2), top, width, bottom - top),
-                              color);
-        } else {
-            painter_.setRenderHint(QPainter::Antialiasing);
-            painter_.setPen(QPen(color, std::max(1.0, command.size * scale_)));
-            painter_.drawLine(from, to);
-        }
-    }
-
-    void box(const DrawCommand& command) {
-        const double left = std::round(std::min(command.a.x, command.b.x) * scale_);
-        const double top = std::round(std::min(command.a.y, command.b.y) * scale_);
-        const double right = std::round((std::max(command.a.x, command.b.x) + 1) * scale_);
-        const double bottom = std::round((std::max(command.a.y, command.b.y) + 1) * scale_);
-        painter_.fillRect(QRectF(left, top, right - left, bottom - top),
-                          look::toQColor(command.color));
-    }
-
-    void polygon(const DrawCommand& command) {
-        static std::vector<QPointF> corners; // kept, so that no frame needs memory for it
-        corners.clear();
-        for (const Point& corner : list_.corners(command)) {
-            corners.push_back(middle(corner));
-        }
-        painter_.setRenderHint(QPainter::Antialiasing);
-        painter_.setPen(QPen(look::toQColor(command.color), std::max(1.0, scale_), Qt::SolidLine,
-                             Qt::RoundCap, Qt::RoundJoin));
-        painter_.setBrush(command.fillStyle == FillStyle::Solid
-                              ? QBrush(look::toQColor(command.fillColor))
-                              : QBrush(Qt::NoBrush));
-        painter_.drawPolygon(corners.data(), static_cast<int>(corners.size()));
-    }
-
-    void copy(const DrawCommand& command) {
-        const auto* picture = dynamic_cast<const DesktopPicture*>(command.picture.get());
-        if (picture != nullptr) {
-            painter_.drawImage(QPoint(static_cast<int>(std::lround(command.a.x * scale_)),
-                                      static_cast<int>(std::lround(command.a.y * scale_))),
-                               picture->prepared(scale_));
-        }
-    }
-
-    QPainter& painter_;
-    const DrawList& list_;
-    double scale_;
-};
-
-QRect devicePixels(const QRectF& box, double scale) {
-    return QRectF(box.left() * scale, box.top() * scale, box.width() * scale, box.height() * scale)
+QRect devicePixels(const QRectF& box, const Stretch& stretch) {
+    return QRectF(box.left() * stretch.x, box.top() * stretch.y, box.width() * stretch.x,
+                  box.height() * stretch.y)
         .toAlignedRect()
         .adjusted(-1, -1, 1, 1);
+}
+
+bool isOpaque(const PicturePtr& picture) {
+    const auto* known = dynamic_cast<const DesktopPicture*>(picture.get());
+    return known != nullptr && known->opaque();
 }
 
 } // namespace
 
 double PictureSurface::ScaleWidth() const {
-    return owner_->place().width;
+    return surfaceScale(*owner_).width;
 }
 double PictureSurface::ScaleHeight() const {
-    return owner_->place().height;
+    return surfaceScale(*owner_).height;
 }
 
 void PictureSurface::Clear() {
@@ -172,8 +74,28 @@ void PictureSurface::Text(Point place, std::string_view text, const FontSpec& fo
 
 void PictureSurface::Copy(const PicturePtr& picture, Point place) {
     if (picture != nullptr) {
-        recording_.add({.kind = DrawCommand::Kind::Copy, .a = place, .picture = picture});
+        recording_.add({.kind = DrawCommand::Kind::Copy,
+                        .a = place,
+                        .picture = picture,
+                        .opaque = isOpaque(picture)});
     }
+}
+
+void PictureSurface::StretchBlt(const Rect& to, const PicturePtr& picture, const Rect& from,
+                                RasterOp operation) {
+    const bool empty = !(to.width > 0 && to.height > 0 && from.width > 0 && from.height > 0);
+    if (picture == nullptr || empty) {
+        return;
+    }
+    const bool whole = from.left >= 0 && from.top >= 0 && from.right() <= picture->width() &&
+                       from.bottom() <= picture->height();
+    recording_.add({.kind = DrawCommand::Kind::Stretch,
+                    .a = {to.left, to.top},
+                    .b = {to.right(), to.bottom()},
+                    .picture = picture,
+                    .from = from,
+                    .operation = operation,
+                    .opaque = whole && operation == RasterOp::SrcCopy && isOpaque(picture)});
 }
 
 void PictureSurface::setBackdrop(Backdrop backdrop) {
@@ -185,6 +107,15 @@ QRectF PictureSurface::whole() const {
     return {0, 0, ScaleWidth(), ScaleHeight()};
 }
 
+QRectF PictureSurface::inDesignPx(const QRectF& box) const {
+    if (box.isEmpty()) {
+        return {};
+    }
+    const double x = owner_->place().width / ScaleWidth();
+    const double y = owner_->place().height / ScaleHeight();
+    return {box.left() * x, box.top() * y, box.width() * x, box.height() * y};
+}
+
 QRectF PictureSurface::finish() {
     QRectF changed;
     if (cleared_) {
@@ -193,7 +124,7 @@ QRectF PictureSurface::finish() {
         baked_ = QImage();
     } else {
         changed = recording_.bounds();
-        shown_.append(recording_);
+        shown_.append(recording_, whole());
     }
     recording_.clear();
     cleared_ = false;
@@ -202,7 +133,7 @@ QRectF PictureSurface::finish() {
     if (shown_.size() > kMostCommands && !image_.isNull()) {
         bake();
     }
-    return changed;
+    return inDesignPx(changed);
 }
 
 void PictureSurface::bake() {
@@ -246,26 +177,48 @@ void PictureSurface::paintGround(QPainter& painter, double scale) {
     }
 }
 
-const QImage& PictureSurface::image(QSize size, double scale) {
+Stretch PictureSurface::stretchTo(QSize size, double scale) const {
+    const Size units = owner_->scaleSize();
+    if (!(units.width > 0 && units.height > 0)) {
+        return {scale, scale};
+    }
+    return {size.width() / units.width, size.height() / units.height};
+}
+
+void PictureSurface::prepareImage(QSize size, double scale) {
     const QImage::Format format =
         owner_->overlay() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
-    if (image_.size() != size || image_.format() != format || scale_ != scale) {
+    const Stretch stretch = stretchTo(size, scale);
+    if (image_.size() != size || image_.format() != format || scale_ != scale ||
+        !(stretch_ == stretch)) {
         image_ = QImage(size.expandedTo({1, 1}), format);
         scale_ = scale;
+        stretch_ = stretch;
         invalidate();
     }
-    if (dirty_.isEmpty()) {
-        return image_;
+}
+
+void PictureSurface::paintDirty() {
+    const QRect pixels = devicePixels(dirty_, stretch_) & image_.rect();
+    CommandPainter commands(image_, shown_, stretch_);
+    // What a picture hides needn't be painted; with a picture over all, not even the ground.
+    const auto [cover, covered] = commands.largestCover(pixels);
+    const QRegion beneath = QRegion(pixels) - covered;
+    if (!beneath.isEmpty()) {
+        commands.clip(beneath);
+        paintGround(commands.painter(), scale_);
+        commands.paint(0, cover);
     }
-    const QRect pixels = devicePixels(dirty_, scale) & image_.rect();
-    QPainter painter(&image_);
-    painter.setClipRect(pixels);
-    paintGround(painter, scale);
-    CommandPainter commands(painter, shown_, scale);
-    for (std::size_t i = 0; i < shown_.size(); ++i) {
-        commands.paint(shown_.commands()[i]);
+    commands.clip(pixels);
+    commands.paint(cover, shown_.size());
+}
+
+const QImage& PictureSurface::image(QSize size, double scale) {
+    prepareImage(size, scale);
+    if (!dirty_.isEmpty()) {
+        paintDirty();
+        dirty_ = QRectF();
     }
-    dirty_ = QRectF();
     return image_;
 }
 

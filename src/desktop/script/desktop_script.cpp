@@ -7,7 +7,6 @@
 #include "script/script.h"
 #include "script/script_options.h"
 #include "script/script_player.h"
-#include "shell/entry.h"
 
 #include <QApplication>
 #include <QDir>
@@ -90,29 +89,28 @@ void applySettings(DesktopHost& host, const ScriptSettings& settings) {
 
 } // namespace
 
-int runDesktopScript(int argc, char** argv, const ScriptOptions& options) {
-    ScriptFault fault;
-    const std::string& file = options.files.front();
-    const auto script = loadScript(file, fault);
-    if (!script) {
-        std::cerr << file << ':' << fault.line << ": " << fault.message << '\n';
+int runDesktopScript(int argc, char** argv, const ScriptOptions& options,
+                     const ProgramChooser& choose) {
+    const auto ready = readyScript(options.files.front(), choose, std::cerr);
+    if (!ready) {
         return static_cast<int>(ScriptStatus::Malformed);
     }
+    const Script& script = ready->script;
     QTemporaryDir folder;
     keepApart(folder.path());
-    makeScreen(folder.path(), script->settings.screen);
+    makeScreen(folder.path(), script.settings.screen);
     QApplication application(argc, argv);
 
     VirtualClock clock;
-    ScriptUser user(script->settings.user);
-    ScriptRandom random(script->settings.seed);
-    const std::string line = commandLineFor(script->settings, folder.path());
+    ScriptUser user(script.settings.user);
+    ScriptRandom random(script.settings.seed);
+    const std::string line = commandLineFor(script.settings, folder.path());
     DesktopHost host(
         application, parseCommandLine(line),
         {.clock = options.scriptClock ? &clock : nullptr, .systemInfo = &user, .random = &random});
-    applySettings(host, script->settings);
+    applySettings(host, script.settings);
     DesktopScriptActor actor(host.windows());
-    ScriptPlayer player(*script, actor,
+    ScriptPlayer player(script, actor,
                         {.keepGoing = options.keepGoing, .realClock = !options.scriptClock},
                         std::cout, std::cerr);
     host.setObserver(&player);
@@ -122,7 +120,8 @@ int runDesktopScript(int argc, char** argv, const ScriptOptions& options) {
         std::cout.flush();
         return player.exitStatus();
     });
-    runSession(line);
+    ready->program(line);
+    host.windows().EndProcess(); // a program that comes back has ended all the same
 }
 
 } // namespace quendal

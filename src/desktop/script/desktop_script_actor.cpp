@@ -7,6 +7,7 @@
 #include "host/labels.h"
 #include "host/log.h"
 #include "host/menu.h"
+#include "host/pictures.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -18,6 +19,20 @@
 #include <QTabBar>
 
 namespace quendal {
+
+namespace {
+
+// A place in the scale units of a control (null: of the form) on its widget.
+QPointF pixelAt(const FormWindow& window, const Control* control, const QWidget& widget,
+                Point place) {
+    if (const auto* box = dynamic_cast<const PictureBox*>(control)) {
+        const Size units = surfaceScale(*box);
+        return {place.x * widget.width() / units.width, place.y * widget.height() / units.height};
+    }
+    return QPointF(place.x, place.y) * window.scale();
+}
+
+} // namespace
 
 QWidget* DesktopScriptActor::widgetOf(const Control& control) const {
     const FormWindow* window = windows_.windowOf(control.form());
@@ -114,7 +129,7 @@ void DesktopScriptActor::mouse(Form& form, Control* control, Point place, MouseB
     }
     QWidget* widget = control == nullptr ? &window->content() : widgetOf(*control);
     if (widget != nullptr) {
-        clickAt(*widget, QPointF(place.x, place.y) * window->scale(),
+        clickAt(*widget, pixelAt(*window, control, *widget, place),
                 button == MouseButton::Right ? Qt::RightButton : Qt::LeftButton);
     }
 }

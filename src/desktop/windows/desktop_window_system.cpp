@@ -30,6 +30,11 @@ constexpr double kNoLimit = 1e6;
 constexpr int kTitleBar = 34;         // px that a window manager adds above a dialog, about
 constexpr double kLongestWait = 3600; // s; the loop that waits looks again
 
+// Without a frame and maximised: over all, panels of the desktop too.
+bool fillsScreen(const Form& form) {
+    return form.frameless() && form.windowState() == WindowState::Maximised;
+}
+
 } // namespace
 
 DesktopWindowSystem::DesktopWindowSystem(Clock& clock, VirtualClock* scriptClock,
@@ -52,12 +57,30 @@ double DesktopWindowSystem::workbenchScale() const {
     return std::min(room.width() / kWorkbench.width, room.height() / kWorkbench.height);
 }
 
-// The scale of what the learner works with, `except` left out.
-double DesktopWindowSystem::presentScale(const Form* except) const {
+// What the learner works with, `except` left out; null when there is nothing.
+const FormWindow* DesktopWindowSystem::presentWindow(const Form* except) const {
     const auto shown = std::find_if(windows_.rbegin(), windows_.rend(), [&](const auto& window) {
         return window->form() != except && window->windowModality() == Qt::ApplicationModal;
     });
-    return shown != windows_.rend() ? (*shown)->scale() : workbenchScale();
+    return shown != windows_.rend() ? shown->get() : nullptr;
+}
+
+double DesktopWindowSystem::presentScale(const Form* except) const {
+    const FormWindow* window = presentWindow(except);
+    return window != nullptr ? window->scale() : workbenchScale();
+}
+
+double DesktopWindowSystem::scaleOf(const Form& form) const {
+    const FormWindow* window = windowOf(form);
+    return window != nullptr ? window->scale() : 1;
+}
+
+QRect DesktopWindowSystem::wholeScreen(const Form* except) const {
+    if (!screen_.isEmpty()) {
+        return available();
+    }
+    const FormWindow* window = presentWindow(except);
+    return (window != nullptr ? window->screen() : QGuiApplication::primaryScreen())->geometry();
 }
 
 Size DesktopWindowSystem::screen() const {
@@ -114,6 +137,14 @@ FormWindow* DesktopWindowSystem::topWindow() const {
     return form == nullptr ? nullptr : windowOf(*form);
 }
 
+std::vector<FormWindow*> DesktopWindowSystem::shownWindows() const {
+    std::vector<FormWindow*> shown;
+    for (const auto& window : windows_) {
+        shown.push_back(window.get());
+    }
+    return shown;
+}
+
 void DesktopWindowSystem::captionChanged(Form& form) {
     if (FormWindow* window = windowOf(form)) {
         window->setWindowTitle(QString::fromStdString(form.caption()));
@@ -149,7 +180,8 @@ void DesktopWindowSystem::realise(Form& form, bool modal) {
         window.setWindowModality(Qt::ApplicationModal);
     }
     if (form.frameless()) {
-        window.setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+        window.setWindowFlags((fillsScreen(form) ? Qt::Window : Qt::SplashScreen) |
+                              Qt::FramelessWindowHint);
     }
     window.winId(); // makes the native window, so that it can be told what it belongs to
     if (modal && under != nullptr && window.windowHandle() != nullptr) {
@@ -159,15 +191,25 @@ void DesktopWindowSystem::realise(Form& form, bool modal) {
     if (windowOf(form) != &window) {
         return; // the form has closed itself in its Resize
     }
-    const bool fills = form.windowState() == WindowState::Maximised && screen_.isEmpty();
-    fills ? window.showMaximized() : window.show();
-    window.activateWindow();
-    window.showFocus();
+    showWindow(form, window);
     if (link_.observer != nullptr) {
         link_.observer->formShown(form);
     }
     // On the screen before the program goes on: a splash is shown just before a pause.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DesktopWindowSystem::showWindow(const Form& form, FormWindow& window) {
+    const bool fills = form.windowState() == WindowState::Maximised && screen_.isEmpty();
+    if (!fills) {
+        window.show();
+    } else if (fillsScreen(form)) {
+        window.showFullScreen();
+    } else {
+        window.showMaximized();
+    }
+    window.activateWindow();
+    window.showFocus();
 }
 
 void DesktopWindowSystem::place(Form& form, FormWindow& window) {
@@ -184,6 +226,8 @@ void DesktopWindowSystem::place(Form& form, FormWindow& window) {
     } else if (form.windowState() != WindowState::Maximised) {
         wanted.setSize(window.sizeAt(dialogScale(form, window)).boundedTo(room.size()));
         wanted.moveCenter(room.center());
+    } else if (fillsScreen(form)) {
+        wanted = wholeScreen(&form);
     }
     if (window.geometry() != wanted) {
         window.setGeometry(wanted);
@@ -213,6 +257,7 @@ void DesktopWindowSystem::withdraw(Form& form) {
     }
     if (FormWindow* next = topWindow()) {
         next->activateWindow();
+        next->showFocus();
     }
 }
 

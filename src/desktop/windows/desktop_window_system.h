@@ -39,6 +39,7 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
     void setExitStatus(std::function<int()> status) { exitStatus_ = std::move(status); }
 
     Size screen() const override;
+    double scaleOf(const Form& form) const override;
     void setPointer(MousePointer pointer) override;
     [[noreturn]] void EndProcess() override;
     void captionChanged(Form& form) override;
@@ -47,6 +48,11 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
     // The window of a form that is on the screen, else null.
     FormWindow* windowOf(const Form& form) const;
     FormWindow* topWindow() const;
+    // All form windows that are on the screen, in the order of their showing.
+    std::vector<FormWindow*> shownWindows() const;
+    // What a form without a frame fills when it is maximised, panels of the desktop included: the
+    // screen that the learner works on, in device-independent pixels.
+    QRect wholeScreen(const Form* except = nullptr) const;
 
   protected:
     void deliverEvents() override;
@@ -62,7 +68,9 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
 
     QRect available() const;
     double workbenchScale() const;
+    const FormWindow* presentWindow(const Form* except) const;
     double presentScale(const Form* except) const;
+    void showWindow(const Form& form, FormWindow& window);
     double dialogScale(const Form& form, const FormWindow& window) const;
     void place(Form& form, FormWindow& window);
     void sweep();

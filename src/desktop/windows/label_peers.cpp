@@ -133,9 +133,10 @@ class ImagePeer final : public PaintedPeer {
     void paint(QPainter& painter, const QRectF& box) override {
         const std::string& path = control()->pictureIcon();
         const double ratio = widget()->devicePixelRatioF();
-        // Never beyond the control.
+        // Never beyond the control; on a form that scales itself as large as that allows.
         const double design = IconLibrary::designSize(path);
-        const double fit = std::min({scale(), box.width() / design, box.height() / design});
+        const double room = std::min(box.width() / design, box.height() / design);
+        const double fit = control()->form().scalesItself() ? room : std::min(scale(), room);
         const QPixmap icon = icons().pixmap(path, fit, ratio);
         const QSizeF size = icon.deviceIndependentSize();
         painter.drawPixmap(

@@ -51,16 +51,24 @@ void FittedText::paint(QPainter& painter, const QRectF& box, const QString& text
 
 PaintedPeer::PaintedPeer(Control& control, FormWindow& window) : WidgetPeer(control, window) {
     setWidget(new Canvas(&window.content(), *this));
-    if (control.onClick || control.onMouse) {
+    if (wantsPresses()) {
         widget()->setCursor(Qt::PointingHandCursor);
     }
 }
 
+bool PaintedPeer::wantsPresses() const {
+    return control() != nullptr && (control()->onClick || control()->onMouse);
+}
+
+QPointF PaintedPeer::unitsAt(QPointF pixel) const {
+    return pixel / scale();
+}
+
 bool PaintedPeer::pressed(const QMouseEvent& event) {
-    if (control() == nullptr || !(control()->onClick || control()->onMouse)) {
+    if (!wantsPresses()) {
         return false;
     }
-    const QPointF at = event.position() / scale();
+    const QPointF at = unitsAt(event.position());
     const auto button = event.button() == Qt::RightButton ? MouseButton::Right : MouseButton::Left;
     report([this, at, button] { control()->userMouse(at.x(), at.y(), button); });
     return true;

@@ -35,6 +35,10 @@ class PaintedPeer : public WidgetPeer {
 
   protected:
     void show() override;
+    // Somebody waits for presses on the control.
+    bool wantsPresses() const;
+    // A place on the widget in the control's scale units.
+    virtual QPointF unitsAt(QPointF pixel) const;
     QColor textColour() const;
     Qt::Alignment across() const;
     QString text() const;

@@ -23,7 +23,7 @@ namespace {
 class PicturePeer final : public PaintedPeer {
   public:
     PicturePeer(PictureBox& box, FormWindow& window) : PaintedPeer(box, window), box_(box) {
-        widget()->setAttribute(Qt::WA_TransparentForMouseEvents, box.overlay());
+        letPressesThrough();
     }
 
     void paint(QPainter& painter, const QRectF& box) override {
@@ -38,7 +38,7 @@ class PicturePeer final : public PaintedPeer {
 
   protected:
     void show() override {
-        widget()->setAttribute(Qt::WA_TransparentForMouseEvents, box_.overlay());
+        letPressesThrough();
         widget()->setAttribute(Qt::WA_OpaquePaintEvent, !box_.overlay());
         if (PictureSurface* drawn = surface()) {
             drawn->finish(); // what was drawn before there was a window
@@ -55,7 +55,17 @@ class PicturePeer final : public PaintedPeer {
         }
     }
 
+    QPointF unitsAt(QPointF pixel) const override {
+        const Size units = surfaceScale(box_);
+        return {pixel.x() * units.width / std::max(1, widget()->width()),
+                pixel.y() * units.height / std::max(1, widget()->height())};
+    }
+
   private:
+    void letPressesThrough() {
+        widget()->setAttribute(Qt::WA_TransparentForMouseEvents, box_.overlay() && !wantsPresses());
+    }
+
     PictureSurface* surface() const { return dynamic_cast<PictureSurface*>(&box_.surface()); }
 
     // Only the part that looks different is painted again; a frame like the last one costs nothing.

@@ -4,6 +4,7 @@
 
 #include "host/color.h"
 #include "host/field_table.h"
+#include "host/picture.h"
 #include "host/string_list.h"
 
 #include <array>
@@ -36,6 +37,7 @@ struct SessionState {
     bool SessionRestart = false;      // back to the start dialog is wanted: every loop ends early
     Color ParticleBackColor = kBlack; // colour of the liquid; particles fade into it
     bool PlainChloride = false;       // Cl- shows no sign in the beaker
+    PicturePtr CapturedPicture;       // what was captured of the screen last
 
     GridTable<int> GridShuffle{};
     GridTable<double> GridJitterX{};
