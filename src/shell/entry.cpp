@@ -12,6 +12,8 @@
 #include "shell/frm_DialogStartup.h"
 #include "shell/picture_buffers.h"
 #include "shell/session/session.h"
+#include "weak_silver/frm_AppMainSilver.h"
+#include "weak_silver/frm_AppMainWeak.h"
 #include "workbench/frm_AppMainStrong.h"
 
 #include <cstdlib>
@@ -36,6 +38,8 @@ struct WorkbenchRow {
 
 constexpr WorkbenchRow kWorkbenches[] = {
     {1, make<frm_AppMainStrong>},
+    {2, make<frm_AppMainWeak>},
+    {4, make<frm_AppMainSilver>},
 };
 
 void tellProduct() {

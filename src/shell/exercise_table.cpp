@@ -28,15 +28,15 @@ constexpr ExerciseRow kExercises[] = {
     {Demos, &Dialog::Ctl_Button18, "LF: Essigsäure mit Natronlauge", 7, 3, Later, 0, 2},
     {Demos, &Dialog::ctl_Button14, "LF: Chlorid-Ionen mit Silber-Ionen", 6, 4, Later, 0, 3},
     {Demos, &Dialog::ctl_Button15, "pH: Starke Säure mit starker Base", 1, 5, Ready, 1, 0},
-    {Demos, &Dialog::ctl_Button16, "pH: Schwache Säure mit starker Base", 2, 6, Later, 1, 1},
-    {Demos, &Dialog::ctl_Button17, "U: Chlorid-Ionen mit Silber-Ionen", 4, 7, Later, 1, 2},
+    {Demos, &Dialog::ctl_Button16, "pH: Schwache Säure mit starker Base", 2, 6, Ready, 1, 1},
+    {Demos, &Dialog::ctl_Button17, "U: Chlorid-Ionen mit Silber-Ionen", 4, 7, Ready, 1, 2},
 
     {Tasks, &Dialog::ctl_Button9, "LF: Salzsäure mit Natronlauge", 5, 1, Later, 0, 0},
     {Tasks, &Dialog::but_CunductoWeak, "LF: Essigsäure mit Natronlauge", 7, 2, Later, 0, 1},
     {Tasks, &Dialog::ctl_Button11, "LF: Chlorid-Ionen mit Silber-Ionen", 6, 3, Later, 0, 2},
     {Tasks, &Dialog::ctl_Button3, "pH: Starke Säure mit starker Base", 1, 4, Ready, 1, 0},
-    {Tasks, &Dialog::ctl_Button4, "pH: Schwache Säure mit starker Base", 2, 5, Later, 1, 1},
-    {Tasks, &Dialog::ctl_Button8, "U: Chlorid-Ionen mit Silber-Ionen", 4, 6, Later, 1, 2},
+    {Tasks, &Dialog::ctl_Button4, "pH: Schwache Säure mit starker Base", 2, 5, Ready, 1, 1},
+    {Tasks, &Dialog::ctl_Button8, "U: Chlorid-Ionen mit Silber-Ionen", 4, 6, Ready, 1, 2},
 };
 
 } // namespace

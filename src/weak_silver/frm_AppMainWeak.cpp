@@ -1,0 +1,138 @@
+#include "weak_silver/frm_AppMainWeak.h"
+
+#include "host/message_box.h"
+#include "host/number_service.h"
+#include "host/roots.h"
+#include "particles/species.h"
+#include "shell/forms/arrange.h"
+#include "shell/session/session.h"
+#include "weak_silver/weak_acid.h"
+#include "workbench/liquid_color.h"
+#include "workbench/strong_acid.h"
+
+namespace quendal {
+
+namespace {
+
+const WorkbenchVariant& weakVariant() {
+    static const WorkbenchVariant variant{
+        .formName = "frm_AppMainWeak",
+        .caption = "Morvik // Quendal - Schwache Säure mit starker Base",
+        .curveStem = "phschwach",
+        .seriesName = "Meine pH-Rechnungen",
+        .helpFile = "weak.rtf",
+        .readingName = "pH Wert:",
+        .readingUnit = "",
+        .readingDigits = {.direct = 3, .guided = 2},
+        .calculationTitle = "pH-Wert ausrechnen",
+        .answerName = "pH =",
+        .wrongDirect = "Der von Dir errechnete pH-Wert ist leider falsch! Soll ich Dir beim "
+                       "Errechnen Schritt für Schritt helfen?",
+        .compareTitle = "",
+        .volumeNames = {"VµV(HAc)   = ", "VµZ(OH-) =", "cµV(HAc) =", "cµZ(OH-) = 1 mol/L"},
+        .task = {.sampleBefore = "Klicke auf die            Pipette, um 10 mL Essigsäure  (c = ",
+                 .sampleAfter = " mol/L) in das Becherglas fließen zu lassen",
+                 .reagent = "Klick auf                               , um mit jedem Klick         "
+                            "       einen  mL Natronlauge ( c= 1 mol/L) zutropfen zu lassen.",
+                 .calculate = "Klick auf                                ,um den genauen pH-Wert "
+                              "zu berechnen.",
+                 .calculateDemo = "Klick auf                                ,um dir den Rechenweg "
+                                  "demonstrieren zu lassen",
+                 .finished =
+                     "Du hast die gesamte Natronlauge zugegeben und dabei nach und nach den "
+                     "pH-Wert verändert. Sieh Dir Dein Ergebnis an, indem Du unten auf \"pH-Kurve "
+                     "anzeigen\" klickst."},
+        .species =
+            {{.kind = kHydronium,
+              .legend = -kHydronium,
+              .term = "H3O+",
+              .spoken = "Oxonium-Ionen",
+              .trace = Trace::FromEquivalence},
+             {.kind = kSodium, .legend = -kSodium, .term = "Na+", .spoken = "Natrium-Ionen"},
+             {.kind = kAceticAcid, .legend = kAceticAcid, .term = "HAc", .spoken = "Essigsäure"},
+             {.kind = kAcetate, .legend = -kAcetate, .term = "Ac-", .spoken = "Acetat-Ionen"},
+             {.kind = kHydroxide,
+              .legend = -kHydroxide,
+              .term = "OH-",
+              .spoken = "Hydroxid-Ionen",
+              .trace = Trace::UpToEquivalence}},
+        .pipette = {kAceticAcid},
+        .burette = {kSodium, kHydroxide},
+        .countingKinds = {kAceticAcid, kHydroxide},
+        .buretteCountingKind = kHydroxide,
+        .directDigits = 3,
+        .countsParticles = true};
+    return variant;
+}
+
+} // namespace
+
+frm_AppMainWeak::frm_AppMainWeak()
+    : LensWorkbench(weakVariant(), LensView::Acid, "Säure-Base-Gleichgewicht ansehen"), vPKs(kPKs),
+      guidance_(*this) {
+    design();
+    arrange(lab_Step0, ctl_Frame2, {36, 134, 396, 22}, {.size = 15});
+    lab_Step0.setText("Schwache Säure mit  pKs = 4,76");
+}
+
+std::optional<Workbench::Reading> frm_AppMainWeak::presentReading() {
+    hCalcPH();
+    if (vVol == 0) {
+        return std::nullopt;
+    }
+    return Reading{.shown = vPhNow, .liquid = liquidColor(vPh)};
+}
+
+void frm_AppMainWeak::hCalcPH() {
+    vCountHAc = vMolecules.COUNTSORT(kAceticAcid);
+    vCountOH = vMolecules.COUNTSORT(kHydroxide);
+    vConc = session().SessionConcentration;
+    vAcidMol = vConc * kSampleVolume;
+    vAcidVol = kSampleVolume;
+    vBaseConc = kReagentConcentration;
+    vBaseVol = hGetVol(1);
+    vBaseMol = vBaseVol * vBaseConc;
+    if (vVol == 0 || !readCase()) {
+        return;
+    }
+    const NumberService& numbers = CoreLib().NumberService;
+    vExcess = roundDecimals(vExcess, 3);
+    vPhText = numbers.Format(vPh, 3);
+    vPhNow = numbers.Parse(vPhText);
+}
+
+// False where the case has no value, which leaves what the run before has shown.
+bool frm_AppMainWeak::readCase() {
+    const auto which = weakCaseOf(session().SessionConcentration, vCountHAc, vCountOH);
+    if (!which) {
+        CoreLib().MessageBox.Ok("Ungültiger fall", "");
+        return true;
+    }
+    vCase = static_cast<int>(*which);
+    const auto reading = weakReading(*which, {.concentration = vConc,
+                                              .acidMol = vAcidMol,
+                                              .baseMol = vBaseMol,
+                                              .totalVol = hGetVol(-1)});
+    if (!reading) {
+        return false;
+    }
+    vPh = reading->pH;
+    vConc = reading->conc;
+    vExcess = reading->excess.value_or(vExcess);
+    vPOH = reading->pOH.value_or(vPOH);
+    return true;
+}
+
+void frm_AppMainWeak::describe(FieldTable& table) const {
+    LensWorkbench::describe(table);
+    table.add("vCountOH", vCountOH);
+    table.add("vCountHAc", vCountHAc);
+    table.add("vPKs", vPKs);
+    table.add("vPh", vPh);
+    table.add("vPOH", vPOH);
+    table.add("vExcess", vExcess);
+    table.add("vCase", vCase);
+    table.add("vPhText", vPhText);
+}
+
+} // namespace quendal

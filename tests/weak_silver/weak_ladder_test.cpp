@@ -1,0 +1,234 @@
+// What the tutor of the weak acid does about wrong answers.
+#include "case_fixture.h"
+
+namespace quendal::test {
+namespace {
+
+constexpr const char* kSolveChoice =
+    "Das ist leider immer noch falsch! Soll ich das Richtige anklicken?";
+
+class WeakLadder : public WeakTest {
+  protected:
+    const char* solveQuestion(int step) const { return step == 7 ? kSolveChoice : kSolve; }
+};
+
+TEST_F(WeakLadder, TheFirstMistakeIsOnlyCounted) {
+    beginPoint(0.8, 3);
+    answerWrong(3);
+    expectBox("ok", kReminder);
+    EXPECT_EQ(host.boxes.shown.size(), 1U);
+    EXPECT_EQ(number("vTries"), 1);
+    EXPECT_EQ(bench().vWrong, 1);
+    EXPECT_EQ(bench().Lab_Vallmista.text(), "1");
+    EXPECT_EQ(host.sounds.played, std::vector<std::string>{"signal 1"});
+    ASSERT_EQ(host.control.progress.size(), 1U);
+    EXPECT_EQ(host.control.progress[0].wrong, 1);
+    EXPECT_EQ(bench().vSolveUsed, 0);
+    EXPECT_EQ(bench().vHelpUsed, 0);
+}
+
+struct RungCase {
+    double concentration;
+    int ml;
+    HelpRow help;
+};
+
+class WeakRung : public WeakLadder, public testing::WithParamInterface<RungCase> {
+  protected:
+    void SetUp() override {
+        beginPoint(GetParam().concentration, GetParam().ml);
+        goTo(help().step);
+        host.boxes.shown.clear();
+    }
+    const HelpRow& help() const { return GetParam().help; }
+};
+
+TEST_P(WeakRung, OpensItsDetailOnYes) {
+    const int step = help().step;
+    const std::string before = step == 7 ? "" : input(step).text();
+    twoMistakes(step, {BoxAnswer::Yes});
+    EXPECT_EQ(boxes(), (Boxes{kReminder, kHelp}));
+    EXPECT_TRUE(flag(help().flag));
+    EXPECT_EQ(bench().vHelpUsed, 1);
+    EXPECT_EQ(bench().vSolveUsed, 0);
+    EXPECT_EQ(bench().vWrong, 2);
+    EXPECT_EQ(host.control.progress.size(), 2U);
+    EXPECT_EQ(number("vTries"), 0);
+    EXPECT_EQ(dueStep(), help().backTo);
+    EXPECT_TRUE(reached(help().backTo));
+    if (help().notReached != 0) {
+        EXPECT_FALSE(reached(help().notReached));
+    }
+    EXPECT_EQ(bench().lab_helpused.text(), "0"); // shown with the point
+}
+
+TEST_P(WeakRung, IsNotOfferedTwice) {
+    const int step = help().step;
+    takeHelp(help());
+    goTo(step);
+    host.boxes.shown.clear();
+    twoMistakes(step, {BoxAnswer::No});
+    EXPECT_EQ(boxes(), (Boxes{kReminder, solveQuestion(step)}));
+    EXPECT_EQ(bench().vHelpUsed, 1);
+    EXPECT_EQ(bench().vSolveUsed, 1);
+    answerWrong(step);
+    EXPECT_EQ(lastBox().text, solveQuestion(step));
+    EXPECT_EQ(bench().vSolveUsed, 2);
+}
+
+TEST_P(WeakRung, LeadsToTheNumbersOnNo) {
+    const int step = help().step;
+    twoMistakes(step, {BoxAnswer::No, BoxAnswer::No});
+    EXPECT_EQ(boxes(), (Boxes{kReminder, kHelp, solveQuestion(step)}));
+    EXPECT_FALSE(flag(help().flag));
+    EXPECT_EQ(bench().vHelpUsed, 0);
+    EXPECT_EQ(bench().vSolveUsed, 1);
+    EXPECT_EQ(number("vTries"), 2);
+    answerWrong(step); // each further mistake offers both anew
+    EXPECT_EQ(boxes(), (Boxes{kReminder, kHelp, solveQuestion(step), kHelp, solveQuestion(step)}));
+    EXPECT_EQ(number("vTries"), 3);
+    EXPECT_EQ(bench().vSolveUsed, 2);
+    if (step != 12) {
+        answerRight(step);
+        EXPECT_EQ(number("vTries"), 0);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, WeakRung,
+                         testing::Values(RungCase{0.8, 3, {3, "vDetailAcid", 1, 1, 3}},
+                                         RungCase{0.8, 3, {6, "vDetailBase", 4, 4, 6}},
+                                         RungCase{0.8, 3, {7, "vDetailCase", 7}},
+                                         RungCase{0.8, 3, {10, "vDetailConc", 8, 8, 10}},
+                                         RungCase{0.8, 8, {10, "vDetailConc", 8, 8, 10}},
+                                         RungCase{0.8, 9, {10, "vDetailConc", 8, 8, 10}},
+                                         RungCase{0.8, 0, {7, "vDetailCase", 7}},
+                                         RungCase{0.8, 0, {12, "vDetailStart", 12}},
+                                         RungCase{0.8, 3, {12, "vDetailFinal", 12}},
+                                         RungCase{0.8, 8, {12, "vDetailFinal", 12}}));
+
+struct SolveCase {
+    double concentration;
+    int ml;
+    int step;
+    const char* text; // filled in
+    bool helpFirst;   // the detail is offered before
+};
+
+class WeakSolution : public WeakLadder, public testing::WithParamInterface<SolveCase> {};
+
+TEST_P(WeakSolution, IsCountedBeforeItIsAnsweredAndFilledIn) {
+    const SolveCase& row = GetParam();
+    beginPoint(row.concentration, row.ml);
+    for (const HelpRow& help : lesson().help) { // the long way there
+        if (row.step < help.step && row.step >= help.backTo && helpAt(help.step) != nullptr) {
+            goTo(help.step);
+            takeHelp(help);
+            break;
+        }
+    }
+    goTo(row.step);
+    host.boxes.shown.clear();
+    int countedAtQuestion = -1;
+    host.boxes.whileOpen = [&] {
+        if (lastBox().text == solveQuestion(row.step)) {
+            countedAtQuestion = bench().vSolveUsed;
+        }
+    };
+    twoMistakes(row.step, row.helpFirst ? std::deque{BoxAnswer::No, BoxAnswer::Yes}
+                                        : std::deque{BoxAnswer::Yes});
+    host.boxes.whileOpen = nullptr;
+    EXPECT_EQ(boxes().size(), row.helpFirst ? 3U : 2U);
+    EXPECT_EQ(lastBox().text, solveQuestion(row.step));
+    EXPECT_EQ(countedAtQuestion, 1);
+    EXPECT_EQ(bench().vSolveUsed, 1);
+    EXPECT_EQ(dueStep(), row.step); // the learner has to press the button
+    if (row.step == 7) {
+        EXPECT_EQ(checkedOptions(), row.text);
+    } else {
+        EXPECT_EQ(input(row.step).text(), row.text);
+    }
+    const int wrong = bench().vWrong;
+    closeNextDialog();
+    stepButton(row.step).userClicked();
+    EXPECT_EQ(bench().vWrong, wrong);
+    EXPECT_EQ(number("vTries"), 0);
+    EXPECT_EQ(visible("frm_Calc"), row.step != 12);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, WeakSolution,
+    testing::Values(SolveCase{1.4, 3, 1, "1,4", false}, SolveCase{1.4, 3, 2, "0.01", false},
+                    SolveCase{1.4, 3, 3, "0,014", true}, SolveCase{1.4, 3, 4, "1", false},
+                    SolveCase{1.4, 3, 5, "0,003", false}, SolveCase{1.4, 3, 6, "0,003", true},
+                    SolveCase{1.4, 0, 7, "0", true}, SolveCase{1.4, 3, 7, "1", true},
+                    SolveCase{1.4, 14, 7, "2", true}, SolveCase{1.4, 15, 7, "3", true},
+                    SolveCase{1.4, 3, 8, "0,011", false}, SolveCase{1.4, 3, 9, "0,003", false},
+                    SolveCase{1.4, 3, 10, "3,667", true}, SolveCase{1.4, 3, 12, "4,20", true},
+                    SolveCase{1.4, 0, 12, "2,31", true}, SolveCase{1.4, 14, 8, "0,014", false},
+                    SolveCase{1.4, 14, 9, "0,024", false}, SolveCase{1.4, 14, 10, "0,583", true},
+                    SolveCase{1.4, 14, 12, "9,26", true}, SolveCase{1.4, 15, 8, "0,001", false},
+                    SolveCase{1.4, 20, 8, "0,006", false}, SolveCase{1.4, 20, 9, "0,03", false},
+                    SolveCase{1.4, 20, 10, "0,200", true}, SolveCase{1.4, 20, 11, "0,70", false}));
+
+TEST_F(WeakLadder, TheLastStepBehindTheEquivalencePointHasNoDetail) {
+    beginPoint(1.0, 12);
+    goTo(12);
+    host.boxes.shown.clear();
+    twoMistakes(12, {BoxAnswer::Yes});
+    EXPECT_EQ(boxes(), (Boxes{kReminder, kSolve}));
+    EXPECT_EQ(input(12).text(), "12,96");
+    EXPECT_FALSE(visible("lab_Calc", 27));
+}
+
+TEST_F(WeakLadder, TheConditionsStandBesideTheOptionsOnceTaken) {
+    beginPoint(1.0, 3);
+    goTo(7);
+    EXPECT_FALSE(visible("lab_optCalc", 2));
+    takeHelp(*helpAt(7));
+    EXPECT_TRUE(visible("lab_optCalc", 2));
+    twoMistakes(7, {BoxAnswer::Yes});
+    expectBox("yesno", kSolveChoice);
+    EXPECT_EQ(checkedOptions(), "1");
+}
+
+TEST_F(WeakLadder, AForbiddenTutorSoundsTheAlarm) {
+    session().SessionNoHelp = true;
+    beginPoint(1.0, 3);
+    twoMistakes(3, {BoxAnswer::Yes});
+    EXPECT_EQ(lastBox().kind, "alarm");
+    EXPECT_EQ(lastBox().title, "KLICKER-ALARM!");
+    EXPECT_EQ(lastBox().extra, "Ico\\32\\Computer\\Signs\\Stop.ico");
+    EXPECT_EQ(lastBox().text,
+              "Der Lehrer hat mir verboten, Dir zu helfen! Bist Du etwa ein böser Klicker??? Du "
+              "mußt das schon alleine schaffen! Beachte die Informationen rechts an der Seite!");
+    EXPECT_EQ(bench().vSolveUsed, 0);
+    EXPECT_FALSE(flag("vDetailAcid"));
+}
+
+TEST_F(WeakLadder, CountersAreShownWithThePoint) {
+    beginPoint(1.0, 0);
+    goTo(7);
+    takeHelp(*helpAt(7));
+    goTo(12);
+    twoMistakes(12, {BoxAnswer::No, BoxAnswer::No});
+    closeNextDialog();
+    answerRight(12);
+    EXPECT_EQ(bench().lab_helpused.text(), "1");
+    EXPECT_EQ(bench().lab_solveuse.text(), "1");
+    EXPECT_EQ(bench().lab_punktegerechnet.text(), "1");
+    EXPECT_EQ(bench().Lab_Vallmista.text(), "4");
+}
+
+TEST_F(WeakLadder, ANewCalculationClosesTheDetails) {
+    beginPoint(1.0, 3);
+    takeHelp(*helpAt(3));
+    startCalculation();
+    EXPECT_FALSE(flag("vDetailAcid"));
+    EXPECT_EQ(dueStep(), 3);
+    EXPECT_EQ(bench().vHelpUsed, 1); // of the task
+    EXPECT_EQ(number("vTries"), 0);
+    EXPECT_EQ(bench().vMismatch, 0);
+}
+
+} // namespace
+} // namespace quendal::test
