@@ -1,0 +1,8 @@
+# The autoprotolysis of water through the glass.
+size 1024x768
+form frm_AppMagnify ShowWater true SourceRight 1024 SourceBottom 768
+start
+wait 25
+screenshot lens-water-1024.png
+key ESC
+wait 2
