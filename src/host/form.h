@@ -15,7 +15,8 @@ enum class UnloadReason { Code, User };
 
 class Form {
   public:
-    // `name` is the prescribed name; `design` the size that all places on it are told for.
+    // `name` is the name that scripts know it by; `design` the size that all places on it are told
+    // for.
     Form(std::string name, Size design);
     virtual ~Form();
     Form(const Form&) = delete;

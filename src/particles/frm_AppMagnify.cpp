@@ -180,6 +180,9 @@ void frm_AppMagnify::describe(FieldTable& table) const {
     table.add("SceneStart", sceneStart_);
     table.add("Frames", frames_);
     table.add("ZoomRounds", zoomRounds_);
+    if (const auto* crystal = dynamic_cast<const CrystalScene*>(scene_.get())) {
+        table.addArray("ColumnOpen", crystal->ColumnOpen);
+    }
     table.addGetter("Active", [this] {
         return FieldValue(std::int64_t{scene_ == nullptr ? 0 : scene_->active()});
     });

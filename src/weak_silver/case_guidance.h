@@ -56,20 +56,13 @@ namespace case_panel {
 
 inline constexpr panel::Column kWide{12, 360}; // a rule with a row of its own
 inline constexpr panel::Column kWideName{92, 124, TextAlign::Right};
+inline constexpr panel::Column kLongName{130, 86, TextAlign::Right};
 inline constexpr double kFractionHeight = 44;
 inline constexpr double kChoiceTop = 264; // the choice and what follows stand below
 
-// Steps 1 to 7, which are alike on both forms: amounts exactly, then the choice.
-std::vector<StepRow> commonSteps();
-// What is shown at them, with the heading of step 1 as lab_CalcStep(firstHeading) and the hints
-// beside the options shown with `hints`.
-std::vector<ShownRow> commonShown(int firstHeading, bool Details::*hints);
-
-template <class T>
-std::vector<T> joined(std::vector<T> first, std::span<const T> second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
+// What is shown at steps 1 to 7: the amounts, then the options with `hints` as the detail that
+// shows beside each when it is the right one.
+std::vector<ShownRow> caseRows(int firstHeading, bool Details::*hints);
 
 } // namespace case_panel
 

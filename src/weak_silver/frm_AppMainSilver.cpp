@@ -3,13 +3,12 @@
 #include "host/number_service.h"
 #include "host/roots.h"
 #include "host/window_system.h"
-#include "particles/species.h"
 #include "shell/forms/arrange.h"
 #include "shell/session/session.h"
 #include "weak_silver/frm_AppMainSilverStart.h"
 #include "weak_silver/silver_potential.h"
+#include "workbench/balance_lines.h"
 #include "workbench/liquid_color.h"
-#include "workbench/strong_acid.h"
 
 namespace quendal {
 
@@ -38,17 +37,13 @@ const WorkbenchVariant& silverVariant() {
                  .reagent = "Klick auf                               , um mit jedem Klick         "
                             "       einen  mL Silbernitrat-Lösung ( c= 1 mol/L) zutropfen zu "
                             "lassen.",
-                 .calculate = "Klick auf                                ,um den genauen pH-Wert "
-                              "zu berechnen.",
-                 .calculateDemo = "Klick auf                                ,um dir den Rechenweg "
-                                  "demonstrieren zu lassen",
                  .finished = "Du hast die gesamte Silbernitrat-Lösung zugegeben und dabei nach und "
                              "nach das Potential verändert. Sieh Dir Dein Ergebnis an, indem Du "
                              "unten auf \"pH-Kurve anzeigen\" klickst."},
         .species =
             {{.kind = kSilver, .legend = -kSilver, .term = "Ag+", .spoken = "Silber-Ionen"},
-             {.kind = kSodium, .legend = -kSodium, .term = "Na+", .spoken = "Natrium-Ionen"},
-             {.kind = kChloride, .legend = -kChloride, .term = "Cl-", .spoken = "Chlorid-Ionen"},
+             kSodiumLine,
+             kChlorideLine,
              {.kind = kNitrate, .legend = -kNitrate, .term = "NO3-", .spoken = "Nitrat-Ionen"}},
         .pipette = {kChloride, kSodium},
         .burette = {kNitrate, kSilver},
@@ -89,12 +84,7 @@ std::optional<Workbench::Reading> frm_AppMainSilver::presentReading() {
 }
 
 void frm_AppMainSilver::hCalcPH() {
-    vConc = session().SessionConcentration;
-    vAcidMol = vConc * kSampleVolume;
-    vAcidVol = kSampleVolume;
-    vBaseConc = kReagentConcentration;
-    vBaseVol = hGetVol(1);
-    vBaseMol = vBaseVol * vBaseConc;
+    readAmounts();
     const SilverReading reading = silverReading(vConc, vAcidMol, vBaseMol, hGetVol(-1));
     vCase = static_cast<int>(reading.section);
     if (reading.computed) {

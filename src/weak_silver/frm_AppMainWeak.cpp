@@ -3,12 +3,12 @@
 #include "host/message_box.h"
 #include "host/number_service.h"
 #include "host/roots.h"
-#include "particles/species.h"
 #include "shell/forms/arrange.h"
 #include "shell/session/session.h"
 #include "weak_silver/weak_acid.h"
+#include "workbench/balance_lines.h"
 #include "workbench/liquid_color.h"
-#include "workbench/strong_acid.h"
+#include "workbench/task_texts.h"
 
 namespace quendal {
 
@@ -32,30 +32,14 @@ const WorkbenchVariant& weakVariant() {
         .volumeNames = {"VµV(HAc)   = ", "VµZ(OH-) =", "cµV(HAc) =", "cµZ(OH-) = 1 mol/L"},
         .task = {.sampleBefore = "Klicke auf die            Pipette, um 10 mL Essigsäure  (c = ",
                  .sampleAfter = " mol/L) in das Becherglas fließen zu lassen",
-                 .reagent = "Klick auf                               , um mit jedem Klick         "
-                            "       einen  mL Natronlauge ( c= 1 mol/L) zutropfen zu lassen.",
-                 .calculate = "Klick auf                                ,um den genauen pH-Wert "
-                              "zu berechnen.",
-                 .calculateDemo = "Klick auf                                ,um dir den Rechenweg "
-                                  "demonstrieren zu lassen",
-                 .finished =
-                     "Du hast die gesamte Natronlauge zugegeben und dabei nach und nach den "
-                     "pH-Wert verändert. Sieh Dir Dein Ergebnis an, indem Du unten auf \"pH-Kurve "
-                     "anzeigen\" klickst."},
+                 .reagent = kBaseLine,
+                 .finished = kAllBaseGiven},
         .species =
-            {{.kind = kHydronium,
-              .legend = -kHydronium,
-              .term = "H3O+",
-              .spoken = "Oxonium-Ionen",
-              .trace = Trace::FromEquivalence},
-             {.kind = kSodium, .legend = -kSodium, .term = "Na+", .spoken = "Natrium-Ionen"},
+            {kHydroniumLine,
+             kSodiumLine,
              {.kind = kAceticAcid, .legend = kAceticAcid, .term = "HAc", .spoken = "Essigsäure"},
              {.kind = kAcetate, .legend = -kAcetate, .term = "Ac-", .spoken = "Acetat-Ionen"},
-             {.kind = kHydroxide,
-              .legend = -kHydroxide,
-              .term = "OH-",
-              .spoken = "Hydroxid-Ionen",
-              .trace = Trace::UpToEquivalence}},
+             kHydroxideLine},
         .pipette = {kAceticAcid},
         .burette = {kSodium, kHydroxide},
         .countingKinds = {kAceticAcid, kHydroxide},
@@ -86,12 +70,7 @@ std::optional<Workbench::Reading> frm_AppMainWeak::presentReading() {
 void frm_AppMainWeak::hCalcPH() {
     vCountHAc = vMolecules.COUNTSORT(kAceticAcid);
     vCountOH = vMolecules.COUNTSORT(kHydroxide);
-    vConc = session().SessionConcentration;
-    vAcidMol = vConc * kSampleVolume;
-    vAcidVol = kSampleVolume;
-    vBaseConc = kReagentConcentration;
-    vBaseVol = hGetVol(1);
-    vBaseMol = vBaseVol * vBaseConc;
+    readAmounts();
     if (vVol == 0 || !readCase()) {
         return;
     }

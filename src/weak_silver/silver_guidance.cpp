@@ -22,18 +22,13 @@ SilverGuidance::SilverGuidance(frm_AppMainSilver& form)
 
 PointValues SilverGuidance::referenceValues() {
     form_.hCalcPH();
-    return {.concentration = session().SessionConcentration,
-            .acidVol = form_.vAcidVol,
-            .acidMol = form_.vAcidMol,
-            .baseConc = form_.vBaseConc,
-            .baseVol = form_.vBaseVol,
-            .baseMol = form_.vBaseMol,
-            .totalVol = form_.hGetVol(-1),
-            .conc = form_.vConc,
-            .excess = form_.vSilverExcess,
-            .silverIon = form_.vSilverIon,
-            .reading = form_.vPotential,
-            .choice = form_.vCase - 1};
+    PointValues point = form_.amounts();
+    point.conc = form_.vConc;
+    point.excess = form_.vSilverExcess;
+    point.silverIon = form_.vSilverIon;
+    point.reading = form_.vPotential;
+    point.choice = form_.vCase - 1;
+    return point;
 }
 
 int SilverGuidance::presentCase() const {
@@ -46,14 +41,16 @@ int SilverGuidance::route(int step) {
         return amount;
     }
     const auto section = static_cast<SilverSection>(presentCase());
-    if (section == SilverSection::Equivalence) {
-        return step == 9 ? 11 : step;
+    const bool chlorideLeft = section == SilverSection::ChlorideExcess;
+    const bool silverLeft = section == SilverSection::SilverExcess;
+    if (step == 9 && section == SilverSection::Equivalence) {
+        return 11;
     }
-    if (step == 8 && !details().conc) {
+    if (step == 8 && (chlorideLeft || silverLeft) && !details().conc) {
         return 10;
     }
     // With silver left over, c(Ag+) is already there.
-    return section == SilverSection::SilverExcess && step == 11 ? 12 : step;
+    return step == 11 && silverLeft ? 12 : step;
 }
 
 // The first mL, the equivalence point and the point behind it, in a demo of 1 mol/L.

@@ -1,6 +1,8 @@
 #include "weak_silver/silver_steps.h"
 
 #include "host/number_service.h"
+#include "workbench/guidance/common_steps.h"
+#include "workbench/guidance/ladder_texts.h"
 
 namespace quendal {
 
@@ -155,19 +157,17 @@ const GuidanceTables& silverTables() {
     static const GuidanceTables tables{
         .lastStep = 12,
         .choiceStep = 7,
-        .steps = joined<StepRow>(commonSteps(), kTail),
+        .steps = joined<StepRow>(amountSteps(-1), kTail),
         // The conditions beside the options come with the reagent's detail: there is no rung at 7.
-        .shown = joined<ShownRow>(commonShown(1, &Details::base), kTailShown),
+        .shown = joined<ShownRow>(caseRows(1, &Details::base), kTailShown),
         .texts = kTexts,
         .rungs = kRungs,
         .calculatorSteps = kCalculatorSteps,
-        .reminder = "Das ist nicht richtig! Überprüfe Deine Eingaben! Beachte die Informationen "
-                    "rechts an der Seite!",
-        .solveQuestion = "Das ist leider immer noch falsch! Soll ich Dir die Zahlen vorgeben?",
-        .solveChoiceQuestion =
-            "Das ist leider immer noch falsch! Soll ich für dich das Richtige anklicken?",
+        .reminder = kReminderInOneLine,
+        .solveChoiceQuestion = kClickForYou,
         .counting = {.help = false, .solve = false, .reported = false},
-        .clearsChoice = true};
+        .clearsChoice = true,
+        .restsAtEnd = true};
     return tables;
 }
 

@@ -23,18 +23,13 @@ WeakGuidance::WeakGuidance(frm_AppMainWeak& form)
 
 PointValues WeakGuidance::referenceValues() {
     form_.hCalcPH();
-    return {.concentration = session().SessionConcentration,
-            .acidVol = form_.vAcidVol,
-            .acidMol = form_.vAcidMol,
-            .baseConc = form_.vBaseConc,
-            .baseVol = form_.vBaseVol,
-            .baseMol = form_.vBaseMol,
-            .totalVol = form_.hGetVol(-1),
-            .conc = form_.vConc,
-            .excess = form_.vExcess,
-            .pOH = form_.vPOH,
-            .reading = form_.vPh,
-            .choice = form_.vCase - 1};
+    PointValues point = form_.amounts();
+    point.conc = form_.vConc;
+    point.excess = form_.vExcess;
+    point.pOH = form_.vPOH;
+    point.reading = form_.vPh;
+    point.choice = form_.vCase - 1;
+    return point;
 }
 
 int WeakGuidance::presentCase() const {

@@ -1,5 +1,8 @@
 #include "weak_silver/weak_steps.h"
 
+#include "workbench/guidance/common_steps.h"
+#include "workbench/guidance/ladder_texts.h"
+
 namespace quendal {
 
 namespace {
@@ -163,17 +166,16 @@ const GuidanceTables& weakTables() {
     static const GuidanceTables tables{
         .lastStep = 12,
         .choiceStep = 7,
-        .steps = joined<StepRow>(commonSteps(), kTail),
-        .shown = joined<ShownRow>(commonShown(0, &Details::choice), kTailShown),
+        .steps = joined<StepRow>(amountSteps(-1), kTail),
+        .shown = joined<ShownRow>(caseRows(0, &Details::choice), kTailShown),
         .texts = kTexts,
         .rungs = kRungs,
         .calculatorSteps = kCalculatorSteps,
-        .reminder = "Das ist nicht richtig! Überprüfe Deine Eingaben! Beachte die Informationen "
-                    "rechts an der Seite!",
-        .solveQuestion = "Das ist leider immer noch falsch! Soll ich Dir die Zahlen vorgeben?",
+        .reminder = kReminderInOneLine,
         .solveChoiceQuestion = "Das ist leider immer noch falsch! Soll ich das Richtige anklicken?",
         .counting = {.help = true, .solve = true, .reported = true},
-        .clearsChoice = true};
+        .clearsChoice = true,
+        .restsAtEnd = true};
     return tables;
 }
 
@@ -210,8 +212,9 @@ const CasePanel& weakPanel() {
                   {28, kFormula, kRow9, {}, kBuffer},
                   {28, kWide, kRow9 - 2, {}, kBase, 24},
                   {28, kWide, kRow8 + kRowHeight, {}, kAcid},
-                  {20, kName, kRow9, {}, kBuffer | kExcess},
-                  {20, kName, kBaseRow9, {}, kBase},
+                  {20, kName, kRow9, {}, kBuffer},
+                  {20, kLongName, kRow9, {}, kExcess},
+                  {20, kLongName, kBaseRow9, {}, kBase},
                   {21, kUnit, kRow9, {}, kBuffer | kExcess},
                   {21, kUnit, kBaseRow9, {}, kBase},
                   {19, kWide, kRow10 - 24, {}, kBuffer},

@@ -2,10 +2,11 @@
 
 #include "host/number_service.h"
 #include "host/roots.h"
-#include "particles/species.h"
 #include "shell/session/session.h"
+#include "workbench/balance_lines.h"
 #include "workbench/liquid_color.h"
 #include "workbench/strong_acid.h"
+#include "workbench/task_texts.h"
 
 namespace quendal {
 
@@ -29,34 +30,17 @@ const WorkbenchVariant& strongVariant() {
         .volumeNames = {"VµV(S)     = ", "VµZ(OH-) =", "cµV(S) =", "cµZ(OH-) = 1 mol/L"},
         .task = {.sampleBefore = "Klicke auf die            Pipette, um 10 mL Salzsäure  (c = ",
                  .sampleAfter = " mol/L) in das Becherglas fließen zu lassen",
-                 .reagent = "Klick auf                               , um mit jedem Klick         "
-                            "       einen  mL Natronlauge ( c= 1 mol/L) zutropfen zu lassen.",
-                 .calculate = "Klick auf                                ,um den genauen pH-Wert "
-                              "zu berechnen.",
-                 .calculateDemo = "Klick auf                                ,um dir den Rechenweg "
-                                  "demonstrieren zu lassen",
-                 .finished =
-                     "Du hast die gesamte Natronlauge zugegeben und dabei nach und nach den "
-                     "pH-Wert verändert. Sieh Dir Dein Ergebnis an, indem Du unten auf \"pH-Kurve "
-                     "anzeigen\" klickst."},
-        .species =
-            {{.kind = kHydronium,
-              .legend = -kHydronium,
-              .term = "H3O+",
-              .spoken = "Oxonium-Ionen",
-              .trace = Trace::FromEquivalence},
-             {.kind = kSodium, .legend = -kSodium, .term = "Na+", .spoken = "Natrium-Ionen"},
-             {.kind = kHydrogenChloride,
-              .legend = kHydrogenChloride,
-              .term = "HCl",
-              .spoken = "Chlorwasserstoff",
-              .balance = Balance::SampleLessChloride},
-             {.kind = kChloride, .legend = -kChloride, .term = "Cl-", .spoken = "Chlorid-Ionen"},
-             {.kind = kHydroxide,
-              .legend = -kHydroxide,
-              .term = "OH-",
-              .spoken = "Hydroxid-Ionen",
-              .trace = Trace::UpToEquivalence}},
+                 .reagent = kBaseLine,
+                 .finished = kAllBaseGiven},
+        .species = {kHydroniumLine,
+                    kSodiumLine,
+                    {.kind = kHydrogenChloride,
+                     .legend = kHydrogenChloride,
+                     .term = "HCl",
+                     .spoken = "Chlorwasserstoff",
+                     .balance = Balance::SampleLessChloride},
+                    kChlorideLine,
+                    kHydroxideLine},
         .pipette = {kHydronium, kChloride},
         .burette = {kSodium, kHydroxide},
         .countingKinds = {kHydronium, kHydroxide},

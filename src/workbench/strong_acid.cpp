@@ -2,6 +2,7 @@
 
 #include "host/number_service.h"
 #include "shell/session/session.h"
+#include "workbench/amounts.h"
 
 #include <cmath>
 

@@ -6,9 +6,6 @@
 
 namespace quendal {
 
-inline constexpr double kSampleVolume = 0.01;      // L
-inline constexpr double kReagentConcentration = 1; // mol/L
-
 enum class Excess { None, Acid, Base };
 
 // Which amount is larger. Amounts that differ by less than the resolution of a double near 1 count

@@ -30,12 +30,7 @@ StrongGuidance::StrongGuidance(Workbench& bench)
 
 PointValues StrongGuidance::referenceValues() {
     Workbench& form = bench();
-    form.vConc = session().SessionConcentration;
-    form.vAcidMol = form.vConc * kSampleVolume;
-    form.vAcidVol = kSampleVolume;
-    form.vBaseConc = kReagentConcentration;
-    form.vBaseVol = form.hGetVol(1);
-    form.vBaseMol = form.vBaseVol * form.vBaseConc;
+    form.readAmounts();
     if (form.vVol == 0) {
         return point();
     }

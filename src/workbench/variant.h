@@ -54,9 +54,12 @@ struct TaskTexts {
     std::string_view sampleBefore; // pipette line, up to the concentration
     std::string_view sampleAfter;  // and behind it
     std::string_view reagent;      // burette line
-    std::string_view calculate;    // calculation line in the calculation mode
-    std::string_view calculateDemo;
     std::string_view finished;
+    // Calculation line, in the calculation mode and in the demo.
+    std::string_view calculate =
+        "Klick auf                                ,um den genauen pH-Wert zu berechnen.";
+    std::string_view calculateDemo = "Klick auf                                ,um dir den "
+                                     "Rechenweg demonstrieren zu lassen";
 };
 
 struct WorkbenchVariant {

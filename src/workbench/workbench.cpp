@@ -3,34 +3,22 @@
 #include "host/calculator.h"
 #include "host/chart.h"
 #include "host/clock.h"
-#include "host/graphics.h"
-#include "host/host_control.h"
-#include "host/message_box.h"
 #include "host/number_service.h"
 #include "host/random_source.h"
 #include "host/roots.h"
-#include "host/sound.h"
 #include "host/window_system.h"
 #include "particles/grid_tables.h"
 #include "shell/forms/frm_AppSplash.h"
-#include "shell/forms/frm_DialogDone.h"
 #include "shell/forms/frm_DialogHelp.h"
 #include "shell/forms/frm_DialogTerms.h"
-#include "shell/forms/frm_DialogphCompare.h"
 #include "shell/forms/instances.h"
 #include "shell/session/session.h"
-#include "workbench/guidance/answer.h"
 #include "workbench/liquid_color.h"
-
-#include <cmath>
-#include <stdexcept>
 
 namespace quendal {
 
 namespace {
 
-constexpr double kLastPoint = 20.0; // mL of reagent that end a task
-constexpr int kSampleMl = 10;       // mL in the beaker before the first reagent
 constexpr int kBlackText = 0;
 constexpr int kGreyText = 8;
 constexpr const char* kStepDue = "Ico\\16\\Abstract\\Arrows\\Black Compact Right.ico";
@@ -43,12 +31,13 @@ Workbench::Workbench(const WorkbenchVariant& variant)
     setCaption(std::string(variant.caption));
     setWindowState(WindowState::Maximised);
     vMolecules.Parent = this;
+    hookMenus();
     hookEvents();
 }
 
 Workbench::~Workbench() = default;
 
-void Workbench::hookEvents() {
+void Workbench::hookMenus() {
     mnu_FileNew.onClick = [this] {
         session().SessionRestart = true;
         vUnload = true;
@@ -57,6 +46,9 @@ void Workbench::hookEvents() {
     mnu_HelpText.onClick = [this] { showHelp(); };
     mnu_HelpTerms.onClick = [] { CoreLib().Windows.ShowModal(dialogTerms()); };
     mnu_HelpAbout.onClick = [] { HostApp().Calculator.ShowAbout(); };
+}
+
+void Workbench::hookEvents() {
     but_Help.onClick = [this] { showHelp(); };
     but_phCompare.onClick = [this] { but_phCompare_Click(); };
     but_Calc.onClick = [this] { but_Calc_Click(); };
@@ -99,13 +91,6 @@ void Workbench::showHelp() {
     frm_DialogHelp help;
     help.FileName = std::string(variant_.helpFile);
     CoreLib().Windows.ShowModal(help);
-}
-
-void Workbench::but_phCompare_Click() {
-    if (!variant_.compareTitle.empty()) {
-        dialogphCompare().setCaption(std::string(variant_.compareTitle));
-    }
-    CoreLib().Windows.ShowModal(dialogphCompare());
 }
 
 void Workbench::Form_Load() {
@@ -262,120 +247,6 @@ int Workbench::learnerSeriesCount() const {
 
 const ChartSeries* Workbench::learnerSeries(int number) const {
     return number == 1 ? session().SessionMySeries : nullptr;
-}
-
-void Workbench::but_Calc_Click() {
-    if (!settleBeaker()) {
-        return;
-    }
-    if (variant_.firstPoint == FirstPoint::AfterReagent && vVol == kSampleMl) {
-        but_Add_Click(1); // nothing to calculate yet: the click is taken for the first mL
-        return;
-    }
-    if (vDemo) {
-        guidance().but_HelpCalc_Click();
-    } else if (!guidance().frm_Calc.visible() && !frm_CalcDirect.visible()) {
-        frm_CalcDirect.setVisible(true);
-        frm_CalcDirect.bringToFront();
-        txt_Ph.setFocus();
-    }
-}
-
-void Workbench::but_CalcDone_Click() {
-    if (occupied_) {
-        return; // a wrong answer would start the tutor in the middle of it
-    }
-    if (hUnequal(txt_Ph.text(), vPhNow, variant_.directDigits) || !answerable()) {
-        HostApp().SoundBank.Signal(1);
-        ++vWrong;
-        showScoreOfErrors();
-        if (CoreLib().MessageBox.YesNo(std::string(variant_.wrongDirect), "") == BoxAnswer::Yes) {
-            guidance().but_HelpCalc_Click();
-        } else {
-            txt_Ph.setFocus();
-        }
-        return;
-    }
-    HostApp().SoundBank.Signal(2);
-    frm_CalcDirect.setVisible(false);
-    if (const auto digits = variant_.readingDigits.direct) {
-        showFinished(vPhNow, *digits);
-    }
-    hPointDone(vPhNow);
-}
-
-void Workbench::showGuidedReading(double reading) {
-    showFinished(reading, variant_.readingDigits.guided);
-}
-
-void Workbench::showFinished(double reading, int digits) {
-    lab_pH.setText(CoreLib().NumberService.Format(reading, digits) +
-                   std::string(variant_.readingUnit));
-}
-
-bool Workbench::hUnequal(const std::string& value, double target, int digits) {
-    switch (compareAnswer(CoreLib().NumberService, value, target, digits)) {
-    case AnswerVerdict::Equal:
-        return false;
-    case AnswerVerdict::Empty:
-        return true;
-    case AnswerVerdict::Unreadable:
-        CoreLib().MessageBox.Ok("Deine Eingabe enthält unzulässige Zeichen!", "");
-        return true;
-    case AnswerVerdict::Differs:
-        break;
-    }
-    ++vMismatch;
-    return true;
-}
-
-void Workbench::countWrongAnswer(bool reported) {
-    ++vWrong;
-    showScoreOfErrors();
-    if (reported) {
-        reportProgress();
-    }
-    HostApp().SoundBank.Signal(1);
-}
-
-void Workbench::showScoreOfErrors() {
-    Lab_Vallmista.setText(std::to_string(vWrong));
-}
-
-void Workbench::reportProgress() const {
-    HostApp().HostControl.ReportProgress(vPoints, vWrong, 0, 0, "", "", "STATUS", 0, 10, 1);
-}
-
-void Workbench::hPointDone(double reading) {
-    ChartSeries& series = *session().SessionMySeries;
-    series.Data.Add(titrantMl(), reading);
-    session().SessionChartView->Redraw(0);
-    if (vDemo) {
-        return;
-    }
-    ++vPoints;
-    CoreLib().MessageBox.Info("Diesen Titrationspunkt hast Du geschafft! Es ist der " +
-                                  std::to_string(vPoints) + ". Punkt",
-                              "Punktberechnung");
-    lab_punktegerechnet.setText(std::to_string(vPoints));
-    lab_solveuse.setText(std::to_string(vSolveUsed));
-    lab_helpused.setText(std::to_string(vHelpUsed));
-    reportProgress();
-    if (series.Data.LastX() == kLastPoint) {
-        showResult();
-    }
-}
-
-void Workbench::showResult() {
-    constexpr int kTaskPoints = 1000;
-    frm_DialogDone result;
-    result.Task = kTaskPoints;
-    result.SolveUsed = vSolveUsed;
-    result.Wrong = vWrong;
-    result.Points = vPoints;
-    result.HelpUsed = vHelpUsed;
-    result.Duration = CoreLib().Clock.Now() - vStartTime;
-    CoreLib().Windows.ShowModal(result);
 }
 
 void Workbench::describe(FieldTable& table) const {

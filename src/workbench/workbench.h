@@ -35,6 +35,11 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     // mL from the burette, computed as the points of the curve carry them.
     double titrantMl() const { return hGetVol(1) * 1000; }
 
+    // c, V and n of sample and reagent into the fields.
+    void readAmounts();
+    // The fields as reference values of the present point, without what a model adds.
+    PointValues amounts() const;
+
     void hShowMainControls();
     void hHideMainControls();
     // Marks the line of the task sheet that is due.
@@ -199,6 +204,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     // A glass at this height is out of the window.
     static constexpr int kOutOfWindow = -1000;
 
+    void hookMenus();
     void hookEvents();
     void openCurve();
     void drawLegend();
@@ -227,6 +233,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     int balanceOf(const BalanceLine& species) const;
     void showVolumes();
 
+    bool markNextPoint(int index);
     bool dosingRefused();
     bool pointPending() const;
     bool demoWantsStop();

@@ -33,17 +33,8 @@ void Workbench::but_Add_Click(int index) {
         vUnload || occupied_) {
         return;
     }
-    if (index == kPipette) {
-        markCalcButton(variant_.firstPoint == FirstPoint::SampleAlone &&
-                       session().SessionRequiredPoints.Contains("0"));
-    } else {
-        if (dosingRefused()) {
-            return;
-        }
-        ++sClicks;
-        const bool required = session().SessionRequiredPoints.Contains(std::to_string(sClicks)) &&
-                              session().SessionMySeries->Data.LastX() < sClicks;
-        markCalcButton(required || vDemo);
+    if (!markNextPoint(index)) {
+        return;
     }
     if (countingDropsInAir() * 0.001 + hGetVol(-1) >= kBeakerLimit * 0.001) {
         return;
@@ -71,6 +62,24 @@ void Workbench::but_Add_Click(int index) {
     if (!vMolecules.REACT()) {
         vMolecules.GRID();
     }
+}
+
+// Counts the click and shows by the button whether the point that it leads to is due. False when it
+// is refused.
+bool Workbench::markNextPoint(int index) {
+    const StringList& required = session().SessionRequiredPoints;
+    if (index == kPipette) {
+        markCalcButton(variant_.firstPoint == FirstPoint::SampleAlone && required.Contains("0"));
+        return true;
+    }
+    if (dosingRefused()) {
+        return false;
+    }
+    ++sClicks;
+    const bool due = required.Contains(std::to_string(sClicks)) &&
+                     session().SessionMySeries->Data.LastX() < sClicks;
+    markCalcButton(due || vDemo);
+    return true;
 }
 
 bool Workbench::dosingRefused() {

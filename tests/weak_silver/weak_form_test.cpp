@@ -13,7 +13,7 @@ constexpr Color kPlain{153, 204, 204};
 
 class WeakForm : public WeakTest {
   protected:
-    // The beaker as told, whatever could come of it.
+    // The beaker, whatever could come of it.
     void fill(int volume, int fromBurette, int acid, int hydroxide) {
         bench().vVol = volume;
         bench().vSourceVol = {10, fromBurette};

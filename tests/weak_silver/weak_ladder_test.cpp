@@ -151,7 +151,7 @@ TEST_P(WeakSolution, IsCountedBeforeItIsAnsweredAndFilledIn) {
     closeNextDialog();
     stepButton(row.step).userClicked();
     EXPECT_EQ(bench().vWrong, wrong);
-    EXPECT_EQ(number("vTries"), 0);
+    EXPECT_EQ(number("vTries"), row.step == 12 ? 2 : 0); // the last step leaves the count
     EXPECT_EQ(visible("frm_Calc"), row.step != 12);
 }
 

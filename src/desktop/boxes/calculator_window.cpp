@@ -19,7 +19,7 @@ namespace quendal {
 
 namespace {
 
-constexpr double kListWidth = 250; // design px
+constexpr double kListWidth = 340; // design px
 constexpr double kListFrame = 10;  // border and padding above and below
 constexpr int kMostRows = 4;       // of the offered lines that are seen at once
 constexpr std::size_t kMostHistory = 50;

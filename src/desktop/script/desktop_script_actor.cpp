@@ -167,6 +167,8 @@ void DesktopScriptActor::command(ctl_CmdBar& bar, const std::string& command) {
         widget == nullptr ? nullptr : widget->findChild<QWidget*>(QString::fromStdString(command));
     if (face != nullptr) {
         clickMiddle(*face);
+    } else {
+        bar.userCommand(command); // from outside, as there is no button for it
     }
 }
 

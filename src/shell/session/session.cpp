@@ -56,6 +56,13 @@ void SessionState::describe(FieldTable& table) const {
     table.add("SessionRestart", SessionRestart);
     table.add("ParticleBackColor", ParticleBackColor);
     table.add("PlainChloride", PlainChloride);
+    // A picture has no text form; its size tells whether there is one.
+    table.addGetter("CapturedPicture", [this] {
+        return FieldValue(CapturedPicture == nullptr
+                              ? std::string()
+                              : std::to_string(CapturedPicture->width()) + "x" +
+                                    std::to_string(CapturedPicture->height()));
+    });
 }
 
 bool hBoolText(std::string_view text, bool* understood) {

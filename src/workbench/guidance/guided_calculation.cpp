@@ -136,6 +136,9 @@ void GuidedCalculation::but_CalcStep_Click(int index) {
     }
     if (index == tables_.lastStep) {
         pointPassed();
+        if (tables_.restsAtEnd) {
+            return;
+        }
     }
     hCalcStepShow(-1);
     vTries_ = 0;

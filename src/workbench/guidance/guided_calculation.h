@@ -49,6 +49,8 @@ class GuidedCalculation {
     // The beaker has changed under an open calculation. Lays it out anew where it stood without a
     // button, because the particles hadn't reacted when the step was reached.
     void beakerChanged();
+    // The conditions beside the options don't stay for the next point.
+    void hideHints();
     // Return while frm_Calc is open: clicks the first visible button of a step but the choice's.
     // True when the key is used up.
     bool clickDueStep();

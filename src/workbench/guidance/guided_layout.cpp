@@ -65,6 +65,10 @@ void GuidedCalculation::beakerChanged() {
     }
 }
 
+void GuidedCalculation::hideHints() {
+    lab_optCalc.each([](int, ctl_TermLabel& hint) { hint.setVisible(false); });
+}
+
 void GuidedCalculation::hideAll() {
     frm_Calc.setVisible(false);
     but_AchtungRW.setVisible(false);

@@ -4,6 +4,7 @@
 #include "host/message_box.h"
 #include "host/roots.h"
 #include "shell/session/session.h"
+#include "workbench/guidance/ladder_texts.h"
 #include "workbench/workbench.h"
 
 #include <algorithm>
@@ -69,8 +70,7 @@ void GuidedCalculation::offerNumbers(int step) {
     bench_.vSolveUsed += tables_.counting.solve ? 1 : 0;
     const bool choice = step == tables_.choiceStep;
     const StepRow* row = rowOf(step, point_.caseNumber());
-    if (asks(std::string(choice ? tables_.solveChoiceQuestion : tables_.solveQuestion)) &&
-        row != nullptr) {
+    if (asks(std::string(choice ? tables_.solveChoiceQuestion : kGiveNumbers)) && row != nullptr) {
         fillIn(*row);
     }
 }

@@ -17,8 +17,8 @@ struct Column {
     TextAlign align = TextAlign::Left;
 };
 
-inline constexpr Column kFormula{12, 137};                // the rule
-inline constexpr Column kName{150, 66, TextAlign::Right}; // "c =" beside the input
+inline constexpr Column kFormula{12, 141};                // the rule
+inline constexpr Column kName{153, 63, TextAlign::Right}; // "c =" beside the input
 inline constexpr Column kInput{219, 94};
 inline constexpr Column kUnit{316, 40};
 inline constexpr Column kCalculator{356, 24};

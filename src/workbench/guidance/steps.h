@@ -120,10 +120,11 @@ struct GuidanceTables {
     std::span<const RungRow> rungs;
     std::span<const int> calculatorSteps; // with a calculator beside their input
     std::string_view reminder;            // the first rung
-    std::string_view solveQuestion;       // the last rung
-    std::string_view solveChoiceQuestion; // and the same at the choice
+    std::string_view solveChoiceQuestion; // the last one at the choice
     Counting counting = {};
     bool clearsChoice = false; // a new calculation starts without a chosen option
+    // Passing the last step leaves step and count of tries as they are.
+    bool restsAtEnd = false;
 };
 
 } // namespace quendal
