@@ -27,9 +27,16 @@ std::vector<ShownRow> caseRows(int firstHeading, bool Details::*hints) {
 
 } // namespace case_panel
 
-CaseGuidance::CaseGuidance(Workbench& bench, const GuidanceTables& tables, const PanelSize& size,
-                           const CasePanel& panel)
-    : GuidedCalculation(bench, tables, size), panel_(panel) {
+CaseGuidance::CaseGuidance(Workbench& bench, const GuidanceTables& tables, const CasePanel& panel)
+    : GuidedCalculation(bench, tables,
+                        {.headings = panel.headingCount,
+                         .labels = panel.labelCount,
+                         .inputs = {1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12},
+                         .options = 4,
+                         .calcButtons = {2, 8, 9, 10, 11, 12},
+                         .optionHints = 4,
+                         .store = Control::kNoIndex}),
+      panel_(panel) {
     design();
 }
 

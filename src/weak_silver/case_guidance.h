@@ -40,6 +40,8 @@ struct Product {
 // Texts and places of the frame.
 struct CasePanel {
     const char* title;
+    int headingCount; // lab_CalcStep(0..)
+    int labelCount;   // lab_Calc(0..)
     std::vector<HeadingPlace> headings;
     std::vector<TermPlace> terms;
     std::array<double, 13> rows; // tops of the inputs by step; at 7 of the choice's button
@@ -68,8 +70,7 @@ std::vector<ShownRow> caseRows(int firstHeading, bool Details::*hints);
 
 class CaseGuidance : public GuidedCalculation {
   protected:
-    CaseGuidance(Workbench& bench, const GuidanceTables& tables, const PanelSize& size,
-                 const CasePanel& panel);
+    CaseGuidance(Workbench& bench, const GuidanceTables& tables, const CasePanel& panel);
 
     // Which case the form's model is in at present, from 1.
     virtual int presentCase() const = 0;

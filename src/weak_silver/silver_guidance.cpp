@@ -9,16 +9,7 @@
 namespace quendal {
 
 SilverGuidance::SilverGuidance(frm_AppMainSilver& form)
-    : CaseGuidance(form, silverTables(),
-                   {.headings = 7,
-                    .labels = 30,
-                    .inputs = {1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12},
-                    .options = 4,
-                    .calcButtons = {2, 8, 9, 10, 11, 12},
-                    .optionHints = 4,
-                    .store = Control::kNoIndex},
-                   silverPanel()),
-      form_(form) {}
+    : CaseGuidance(form, silverTables(), silverPanel()), form_(form) {}
 
 PointValues SilverGuidance::referenceValues() {
     form_.hCalcPH();

@@ -174,6 +174,8 @@ const GuidanceTables& silverTables() {
 const CasePanel& silverPanel() {
     static const CasePanel panel{
         .title = "Potential ausrechnen",
+        .headingCount = 7,
+        .labelCount = 30,
         .headings = {{1, 36, "1.Vorgelegte  Stoffmenge Chlorid"},
                      {2, 150, "2. Zugegebene Stoffmenge der Silber-Ionen"},
                      {3, kChoiceTop, "3. Welcher Fall liegt vor? - wichtig für Potential"},

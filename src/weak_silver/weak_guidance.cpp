@@ -10,16 +10,7 @@
 namespace quendal {
 
 WeakGuidance::WeakGuidance(frm_AppMainWeak& form)
-    : CaseGuidance(form, weakTables(),
-                   {.headings = 5,
-                    .labels = 29,
-                    .inputs = {1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12},
-                    .options = 4,
-                    .calcButtons = {2, 8, 9, 10, 11, 12},
-                    .optionHints = 4,
-                    .store = Control::kNoIndex},
-                   weakPanel()),
-      form_(form) {}
+    : CaseGuidance(form, weakTables(), weakPanel()), form_(form) {}
 
 PointValues WeakGuidance::referenceValues() {
     form_.hCalcPH();

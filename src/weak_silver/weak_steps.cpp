@@ -182,6 +182,8 @@ const GuidanceTables& weakTables() {
 const CasePanel& weakPanel() {
     static const CasePanel panel{
         .title = "pH-Wert ausrechnen",
+        .headingCount = 5,
+        .labelCount = 29,
         .headings = {{0, 36, "1. Stoffmenge vorgelegte  Säure"},
                      {1, 150, "2. Stoffmenge der zugetropften Base"},
                      {2, kChoiceTop, "3. Welcher Fall liegt vor - ist für den pH entscheidend!!"},
