@@ -1,0 +1,48 @@
+#!/usr/bin/env python3
+"""Writes the learners' scripts that follow a scheme: make_scripts.py FOLDER."""
+
+import sys
+from pathlib import Path
+
+import beginnings
+import calculator
+import demo
+import details
+import free
+import ladder
+import lens
+import mistakes
+import required
+import strong
+import strong_ladder
+
+FAMILIES = (
+    free,
+    required,
+    ladder,
+    details,
+    demo,
+    calculator,
+    mistakes,
+    beginnings,
+    lens,
+    strong,
+    strong_ladder,
+)
+
+
+def main(arguments):
+    if len(arguments) != 2:
+        print("usage: make_scripts.py FOLDER", file=sys.stderr)
+        return 2
+    folder = Path(arguments[1])
+    folder.mkdir(parents=True, exist_ok=True)
+    for family in FAMILIES:
+        for name, lines in family.scripts():
+            text = "\n".join(lines) + "\n"
+            (folder / (name + ".qs")).write_text(text, encoding="utf-8", newline="\n")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv))
