@@ -39,21 +39,18 @@ struct Family {
     std::vector<std::string> (*notes)(const std::string& concentration);
 };
 
-constexpr Family kStrongAcid{.stem = "phstark",
-                             .reagent = "V(NaOH)",
-                             .series = "pH-Wert",
-                             .yTitle = "pH-Wert",
-                             .decimals = 4,
-                             .value = strongAcidPh,
-                             .notes = strongAcidNotes};
+constexpr Family acid(const char* stem, decltype(Family::value) pH, decltype(Family::notes) notes) {
+    return {.stem = stem,
+            .reagent = "V(NaOH)",
+            .series = "pH-Wert",
+            .yTitle = "pH-Wert",
+            .decimals = 4,
+            .value = pH,
+            .notes = notes};
+}
 
-constexpr Family kWeakAcid{.stem = "phschwach",
-                           .reagent = "V(NaOH)",
-                           .series = "pH-Wert",
-                           .yTitle = "pH-Wert",
-                           .decimals = 4,
-                           .value = weakAcidPh,
-                           .notes = weakAcidNotes};
+constexpr Family kStrongAcid = acid("phstark", strongAcidPh, strongAcidNotes);
+constexpr Family kWeakAcid = acid("phschwach", weakAcidPh, weakAcidNotes);
 
 constexpr Family kSilver{.stem = "potsilber",
                          .reagent = "V(AgNO3)",

@@ -73,26 +73,22 @@ struct Family {
     double spread; // and one of them at least so far: the curve isn't the learner's formula
 };
 
-constexpr Family kStrongAcid{.stem = "phstark",
-                             .xTitle = "V(NaOH) in mL",
-                             .yTitle = "pH-Wert",
-                             .series = "pH-Wert",
-                             .range = {-0.1, 13.6},
-                             .learners = learnersStrongAcidPh,
-                             .firstPoint = 0,
-                             .nearest = 0.0,
-                             .farthest = 0.2,
-                             .spread = 0.1};
-constexpr Family kWeakAcid{.stem = "phschwach",
-                           .xTitle = "V(NaOH) in mL",
-                           .yTitle = "pH-Wert",
-                           .series = "pH-Wert",
-                           .range = {2.3, 13.6},
-                           .learners = learnersWeakAcidPh,
-                           .firstPoint = 0,
-                           .nearest = 0.0,
-                           .farthest = 0.15,
-                           .spread = 0.1};
+constexpr Family acid(const char* stem, std::pair<double, double> range, double (*learners)(Beaker),
+                      double farthest) {
+    return {.stem = stem,
+            .xTitle = "V(NaOH) in mL",
+            .yTitle = "pH-Wert",
+            .series = "pH-Wert",
+            .range = range,
+            .learners = learners,
+            .firstPoint = 0,
+            .nearest = 0.0,
+            .farthest = farthest,
+            .spread = 0.1};
+}
+
+constexpr Family kStrongAcid = acid("phstark", {-0.1, 13.6}, learnersStrongAcidPh, 0.2);
+constexpr Family kWeakAcid = acid("phschwach", {2.3, 13.6}, learnersWeakAcidPh, 0.15);
 constexpr Family kSilver{.stem = "potsilber",
                          .xTitle = "V(AgNO3) in mL",
                          .yTitle = "Potential E in V",

@@ -1,4 +1,5 @@
 // Stretched copies, raster operations and surfaces with a scale of their own.
+#include "desktop/box_form.h"
 #include "desktop/window_rig.h"
 
 #include "desktop/pictures/desktop_picture.h"
@@ -12,15 +13,6 @@
 namespace quendal::test {
 
 namespace {
-
-class BoxForm final : public Form {
-  public:
-    BoxForm() : Form("frm_Box", {200, 100}) {
-        box.setPlace(0, 0, 200, 100);
-        box.setBackColor({255, 255, 255});
-    }
-    PictureBox box{*this, "box"};
-};
 
 QImage plain(QSize size, QColor color) {
     QImage image(size, QImage::Format_RGB32);

@@ -11,6 +11,19 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+struct LinesCase {
+    double concentration;
+    int ml;
+    int index;
+    Lines lines;
+};
+
+struct ResultCase {
+    int ml;
+    int index;
+    Lines results;
+};
+
 // On one of the two forms.
 template <class Test>
 class CalculatorLines : public Test {
@@ -40,27 +53,28 @@ class CalculatorLines : public Test {
         }
         return results;
     }
+    void spells(const LinesCase& row) {
+        beginWithLines(row.concentration, row.ml);
+        nameInputs();
+        EXPECT_EQ(linesOf(row.index), row.lines);
+        session().SessionCalcTerm = false;
+        EXPECT_EQ(linesOf(row.index), Lines{});
+    }
+    void works(const ResultCase& row) {
+        beginWithLines(0.8, row.ml, true);
+        this->stepButton(this->dueStep()).userClicked(); // fills in all that is right
+        EXPECT_EQ(resultsOf(row.index), row.results);
+    }
 };
 
 class WeakLines : public CalculatorLines<WeakTest> {};
 class SilverLines : public CalculatorLines<SilverTest> {};
 
-struct LinesCase {
-    double concentration;
-    int ml;
-    int index;
-    Lines lines;
-};
-
 class WeakLine : public WeakLines, public testing::WithParamInterface<LinesCase> {};
 class SilverLine : public SilverLines, public testing::WithParamInterface<LinesCase> {};
 
 TEST_P(WeakLine, IsSpelledAsItIs) {
-    beginWithLines(GetParam().concentration, GetParam().ml);
-    nameInputs();
-    EXPECT_EQ(linesOf(GetParam().index), GetParam().lines);
-    session().SessionCalcTerm = false;
-    EXPECT_EQ(linesOf(GetParam().index), Lines{});
+    spells(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -110,11 +124,7 @@ INSTANTIATE_TEST_SUITE_P(
                   {"(0,014-0 ) / 0", "(t6-t3) / (0,01)", "(t6) / (0,01 + 0)", "t6/ (0,01)"}}));
 
 TEST_P(SilverLine, IsSpelledAsItIs) {
-    beginWithLines(GetParam().concentration, GetParam().ml);
-    nameInputs();
-    EXPECT_EQ(linesOf(GetParam().index), GetParam().lines);
-    session().SessionCalcTerm = false;
-    EXPECT_EQ(linesOf(GetParam().index), Lines{});
+    spells(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -162,12 +172,6 @@ TEST_F(WeakLines, NumbersFollowTheLocaleButForTheClassicOnes) {
     EXPECT_EQ(linesOf(11)[3], "14-4.538");
 }
 
-struct ResultCase {
-    int ml;
-    int index;
-    Lines results;
-};
-
 constexpr const char* kUnreadable = "Das kann ich nicht lesen";
 constexpr const char* kNothing = "Da steht noch nichts";
 constexpr const char* kDivision = "Durch 0 kann man nicht teilen";
@@ -178,9 +182,7 @@ class SilverResult : public SilverLines, public testing::WithParamInterface<Resu
 
 TEST_P(WeakResult, IsANumberOrAWord) {
     session().SessionCalcTermDirect = true;
-    beginWithLines(0.8, GetParam().ml, true);
-    stepButton(dueStep()).userClicked(); // fills in all that is right
-    EXPECT_EQ(resultsOf(GetParam().index), GetParam().results);
+    works(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -211,9 +213,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ResultCase{11, 12, {"2.80255", "8.95767", "13.15", "13.1549"}}));
 
 TEST_P(SilverResult, IsANumberOrAWord) {
-    beginWithLines(0.8, GetParam().ml, true);
-    stepButton(dueStep()).userClicked();
-    EXPECT_EQ(resultsOf(GetParam().index), GetParam().results);
+    works(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(

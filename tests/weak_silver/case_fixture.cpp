@@ -10,6 +10,24 @@ namespace quendal::test {
 
 namespace {
 
+// What both forms show alike.
+const ViewRow kSharedView[] = {
+    {1, "txt_Calc(1)"},
+    {1, "lab_Calc(2)", "mol / L"},
+    {2, "txt_Calc(2)"},
+    {2, "lab_Calc(4)", "L"},
+    {3, "txt_Calc(3)"},
+    {3, "lab_Calc(7)", "mol"},
+    {4, "txt_Calc(4)"},
+    {4, "lab_Calc(13)", "mol / L"},
+    {5, "txt_Calc(5)"},
+    {5, "lab_Calc(11)", "L"},
+    {6, "txt_Calc(6)"},
+    {6, "lab_Calc(8)", "mol"},
+    {7, "opt_CalcStore", "Rechnung beibehalten"},
+    {12, "txt_Calc(12)"},
+};
+
 bool tells(const Control& control) {
     switch (control.kind()) {
     case ControlKind::Label:
@@ -27,6 +45,18 @@ std::string member(const char* array, int index) {
 }
 
 } // namespace
+
+std::map<int, Asked> askedAmounts(double concentration, int ml) {
+    const double titrant = ml / 1000.0;
+    return {{1, {concentration}}, {2, {0.01}},   {3, {concentration * 0.01}}, {4, {1}},
+            {5, {titrant}},       {6, {titrant}}};
+}
+
+std::vector<int> helpedTo(std::vector<int> tail) {
+    const int amounts[] = {3, 1, 2, 3, 6, 4, 5, 6, 7};
+    tail.insert(tail.begin(), std::begin(amounts), std::end(amounts));
+    return tail;
+}
 
 void CaseTest::beginPoint(double concentration, int ml, bool demo) {
     case_ = lesson_.caseOf(concentration, ml);
@@ -60,12 +90,14 @@ std::string CaseTest::filled(std::string text) const {
 
 Seen CaseTest::view(int due) const {
     Seen all;
-    for (const ViewRow& row : lesson_.view) {
+    const auto show = [&](const ViewRow& row) {
         const bool here = reached_.contains(row.step) && (row.cases & inCase(case_)) != 0;
         if (here && (row.detail == nullptr || open_.contains(row.detail))) {
             all[row.control] = filled(row.text);
         }
-    }
+    };
+    std::for_each(std::begin(kSharedView), std::end(kSharedView), show);
+    std::for_each(lesson_.view.begin(), lesson_.view.end(), show);
     all[member("but_CalcStep", due)] = "";
     if (std::find(lesson_.calculators.begin(), lesson_.calculators.end(), due) !=
         lesson_.calculators.end()) {

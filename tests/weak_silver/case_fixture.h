@@ -2,6 +2,7 @@
 // who goes through a guided calculation on them.
 #pragma once
 
+#include "task_points.h"
 #include "weak_silver/frm_AppMainSilver.h"
 #include "weak_silver/frm_AppMainWeak.h"
 #include "workbench/bench_fixture.h"
@@ -23,7 +24,8 @@ constexpr unsigned inCase(int number) {
 }
 inline constexpr unsigned kAnyCase = ~0U;
 
-// A control shows from this step on in these cases, with this detail flag set where one is named.
+// A control of one form shows from this step on in these cases, with this detail flag set where one
+// is named.
 // "{3}" in a text stands for what the learner typed at step 3.
 struct ViewRow {
     int step;
@@ -54,14 +56,51 @@ struct Lesson {
     std::vector<ViewRow> view;
     std::vector<HelpRow> help;
     std::vector<int> calculators; // steps with a calculator beside the input
+    const char* solveChoice;      // the offer to choose what is right
     int (*caseOf)(double concentration, int ml);
     std::map<int, Asked> (*asked)(double concentration, int ml);
 };
+
+// What is asked up to the choice is the same on both forms.
+std::map<int, Asked> askedAmounts(double concentration, int ml);
 
 const Lesson& weakLesson();
 const Lesson& silverLesson();
 
 using Boxes = std::vector<std::string>;
+
+// A point and the steps that it takes, with every detail that is offered or with none.
+struct WalkCase {
+    double concentration;
+    int ml;
+    bool helped;
+    std::vector<int> steps;
+};
+// The way of a learner who takes the details of the amounts, to the choice and beyond.
+std::vector<int> helpedTo(std::vector<int> tail);
+
+// A detail that is offered at a point.
+struct RungCase {
+    double concentration;
+    int ml;
+    HelpRow help;
+    bool anew = false; // the count of tries starts anew before the question
+};
+
+// What is filled in at a step of a point.
+struct SolveCase {
+    double concentration;
+    int ml;
+    int step;
+    const char* text;
+    bool helpFirst; // the detail is offered before
+};
+
+// An answer that is given without the tutor.
+struct AnswerCase {
+    const char* text;
+    bool right;
+};
 
 class CaseTest : public AnyBenchTest {
   protected:
@@ -76,7 +115,6 @@ class CaseTest : public AnyBenchTest {
 
     // Opens the guided calculation of a point.
     void beginPoint(double concentration, int ml, bool demo = false);
-    int caseNumber() const { return case_; }
     const Asked& asked(int step) const { return asked_.at(step); }
 
     Seen seen();
@@ -104,6 +142,29 @@ class CaseTest : public AnyBenchTest {
     // is offered is taken.
     void walk(const std::vector<int>& steps, bool helped);
 
+    void walkPoint(const WalkCase& row);
+    // A point without mistakes by its shortest way.
+    void endPoint(const TaskPoint& point);
+    // The box at the choice keeps the sample for the next start.
+    void keepsTheSample();
+
+    std::string solveQuestion(int step) const { return step == 7 ? lesson_.solveChoice : kSolve; }
+    void beginRung(const RungCase& row);
+    void opensDetail(const HelpRow& help);
+    void declinesAll(const HelpRow& help);
+    void offersNoSecondTime(const HelpRow& help);
+    // To the step, by the details that lead there.
+    void beginSolution(const SolveCase& row);
+    // The number is filled in, and the step waits for its button ...
+    void takeSolution(const SolveCase& row);
+    // ... which takes it as right.
+    void leaveSolution(const SolveCase& row);
+
+    // The answer to the point that is there; `value` is what goes into the learner's series.
+    void judges(const AnswerCase& row, double value, const std::string& wrongBox);
+    void expectCurveAndHelp(const std::string& curve, const std::string& helpFile);
+    void keepsTheSignOfChloride();
+
     // The learner closes the comparison that ends a point, and the result behind the last one.
     void closeEnd();
 
@@ -113,7 +174,6 @@ class CaseTest : public AnyBenchTest {
     std::vector<std::string> inputTexts();
     // The demo's steps from the present one on, each left by its button.
     std::vector<int> clickThrough();
-    const Lesson& lesson() const { return lesson_; }
 
   private:
     std::string filled(std::string text) const;
@@ -124,6 +184,14 @@ class CaseTest : public AnyBenchTest {
     std::set<int> reached_;
     std::set<std::string> open_; // detail flags
     std::map<int, std::string> typed_;
+};
+
+// At a detail that is offered on one of the two forms.
+template <class Test>
+class Rung : public Test, public testing::WithParamInterface<RungCase> {
+  protected:
+    void SetUp() override { this->beginRung(GetParam()); }
+    const HelpRow& help() const { return GetParam().help; }
 };
 
 class WeakTest : public CaseTest {

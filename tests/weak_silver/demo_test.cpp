@@ -1,10 +1,20 @@
 // The demo of both forms: what is filled in, where it warns, how it runs.
 #include "case_fixture.h"
 
-#include <tuple>
-
 namespace quendal::test {
 namespace {
+
+struct FilledCase {
+    int ml;
+    std::vector<std::string> texts; // of steps 1 to 6 and 8 to 12
+    const char* option;
+};
+
+struct WarningCase {
+    double concentration;
+    int ml;
+    bool warns;
+};
 
 // On one of the two forms.
 template <class Test>
@@ -22,6 +32,17 @@ class Demo : public Test {
         EXPECT_EQ(session().SessionMySeries->Data.Y(1), this->asked(12).value);
         EXPECT_TRUE(this->host.boxes.shown.empty());
         EXPECT_TRUE(this->host.sounds.played.empty());
+    }
+    void fillsIn(const FilledCase& row) {
+        this->beginPoint(1.0, row.ml, true);
+        this->stepButton(this->dueStep()).userClicked();
+        EXPECT_EQ(this->inputTexts(), row.texts);
+        EXPECT_EQ(this->checkedOptions(), row.option);
+    }
+    void warns(const WarningCase& row) {
+        this->beginPoint(row.concentration, row.ml, true);
+        EXPECT_EQ(this->visible("but_AchtungRW"), row.warns);
+        EXPECT_EQ(this->stepButton(13).visible(), !row.warns);
     }
     // The point is finished; a second start there changes nothing.
     void startsOnce(double concentration, int ml) {
@@ -42,20 +63,11 @@ class Demo : public Test {
 class WeakDemo : public Demo<WeakTest> {};
 class SilverDemo : public Demo<SilverTest> {};
 
-struct FilledCase {
-    int ml;
-    std::vector<std::string> texts; // of steps 1 to 6 and 8 to 12
-    const char* option;
-};
-
 class WeakFilled : public WeakDemo, public testing::WithParamInterface<FilledCase> {};
 class SilverFilled : public SilverDemo, public testing::WithParamInterface<FilledCase> {};
 
 TEST_P(WeakFilled, EveryInputOfThePointHasItsFormat) {
-    beginPoint(1.0, GetParam().ml, true);
-    stepButton(dueStep()).userClicked();
-    EXPECT_EQ(inputTexts(), GetParam().texts);
-    EXPECT_EQ(checkedOptions(), GetParam().option);
+    fillsIn(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(All, WeakFilled,
@@ -81,10 +93,7 @@ INSTANTIATE_TEST_SUITE_P(All, WeakFilled,
                                                     "3"}));
 
 TEST_P(SilverFilled, EveryInputOfThePointHasItsFormat) {
-    beginPoint(1.0, GetParam().ml, true);
-    stepButton(dueStep()).userClicked();
-    EXPECT_EQ(inputTexts(), GetParam().texts);
-    EXPECT_EQ(checkedOptions(), GetParam().option);
+    fillsIn(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -154,19 +163,11 @@ INSTANTIATE_TEST_SUITE_P(All, SilverDemoWay,
                                          WayCase{10, {1, 2, 3, 4, 5, 6, 7, 8, 11, 12}},
                                          WayCase{12, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12}}));
 
-struct WarningCase {
-    double concentration;
-    int ml;
-    bool warns;
-};
-
 class WeakWarning : public WeakDemo, public testing::WithParamInterface<WarningCase> {};
 class SilverWarning : public SilverDemo, public testing::WithParamInterface<WarningCase> {};
 
 TEST_P(WeakWarning, StandsWhereTheWayChanges) {
-    beginPoint(GetParam().concentration, GetParam().ml, true);
-    EXPECT_EQ(visible("but_AchtungRW"), GetParam().warns);
-    EXPECT_EQ(stepButton(13).visible(), !GetParam().warns);
+    warns(GetParam());
     EXPECT_EQ(control<ctl_Pannel>("but_AchtungRW").text(), "Achtung!<br>Neuer Rechenweg!");
     EXPECT_EQ(stepButton(13).text(), "'one' - Klick");
 }
@@ -181,9 +182,7 @@ INSTANTIATE_TEST_SUITE_P(Volumes, WeakWarning,
                                          WarningCase{0.6, 7, true}, WarningCase{0.6, 10, false}));
 
 TEST_P(SilverWarning, StandsWhereTheWayChanges) {
-    beginPoint(GetParam().concentration, GetParam().ml, true);
-    EXPECT_EQ(visible("but_AchtungRW"), GetParam().warns);
-    EXPECT_EQ(stepButton(13).visible(), !GetParam().warns);
+    warns(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Volumes, SilverWarning,
@@ -199,10 +198,8 @@ TEST_F(WeakDemo, ACalculationHasNoWarning) {
     EXPECT_FALSE(stepButton(13).visible());
 }
 
-class EveryWeakDemo : public WeakDemo,
-                      public testing::WithParamInterface<std::tuple<double, int>> {};
-class EverySilverDemo : public SilverDemo,
-                        public testing::WithParamInterface<std::tuple<double, int>> {};
+class EveryWeakDemo : public WeakDemo, public testing::WithParamInterface<TaskPoint> {};
+class EverySilverDemo : public SilverDemo, public testing::WithParamInterface<TaskPoint> {};
 
 TEST_P(EveryWeakDemo, AnswersItself) {
     answersItself(std::get<0>(GetParam()), std::get<1>(GetParam()));
@@ -211,12 +208,8 @@ TEST_P(EverySilverDemo, AnswersItself) {
     answersItself(std::get<0>(GetParam()), std::get<1>(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, EveryWeakDemo,
-                         testing::Combine(testing::Values(0.6, 0.8, 1.0, 1.2, 1.4),
-                                          testing::Range(0, 21)));
-INSTANTIATE_TEST_SUITE_P(All, EverySilverDemo,
-                         testing::Combine(testing::Values(0.6, 0.8, 1.0, 1.2, 1.4),
-                                          testing::Range(1, 21)));
+INSTANTIATE_TEST_SUITE_P(All, EveryWeakDemo, everyPoint(0));
+INSTANTIATE_TEST_SUITE_P(All, EverySilverDemo, everyPoint(1));
 
 TEST_F(WeakDemo, OneClickRunsToTheLastStep) {
     beginPoint(1.0, 4, true);

@@ -2,9 +2,6 @@
 #include "case_fixture.h"
 
 #include "particles/species.h"
-#include "shell/forms/frm_DialogHelp.h"
-
-#include <cmath>
 
 namespace quendal::test {
 namespace {
@@ -99,14 +96,8 @@ TEST_F(SilverForm, WritesItsTaskSheet) {
     open(1.2);
     EXPECT_EQ(bench().name(), "frm_AppMainSilver");
     EXPECT_EQ(bench().caption(), "Morvik // Quendal - Potentiometrie");
-    EXPECT_EQ(bench().lab_Step(0).text(),
-              "Klicke auf die            Pipette, um 10 mL Natriumchlorid-Lösung  (c = 1.2 mol/L) "
-              "in das Becherglas fließen zu lassen");
-    EXPECT_EQ(bench().lab_Step1.text(),
-              "Klick auf                               , um mit jedem Klick                einen  "
-              "mL Silbernitrat-Lösung ( c= 1 mol/L) zutropfen zu lassen.");
-    EXPECT_EQ(bench().lab_Step(1).text(),
-              "Klick auf                                ,um den genauen pH-Wert zu berechnen.");
+    expectTaskSheet("Natriumchlorid-Lösung  (c = 1.2 mol/L)", "Silbernitrat-Lösung",
+                    "das Potential");
     EXPECT_EQ(bench().lab_pHName.term(), "Potential:");
     EXPECT_EQ(bench().frm_CalcDirect.text(), "Potential ausrechnen");
     EXPECT_EQ(session().SessionMySeries->name, "Meine pH-Rechnungen");
@@ -115,27 +106,13 @@ TEST_F(SilverForm, WritesItsTaskSheet) {
 
 TEST_F(SilverForm, OpensItsOwnCurveAndHelp) {
     open(0.6);
-    EXPECT_TRUE(host.boxes.shown.empty());
-    EXPECT_NE(session().SessionCurve->name.find("potsilber06"), std::string::npos);
-    std::string file;
-    later([&] {
-        file = dynamic_cast<frm_DialogHelp&>(*host.windows.top()).FileName;
-        host.windows.userClosed(*host.windows.top());
-    });
-    bench().but_Help.userClicked();
-    EXPECT_EQ(file, "silver.rtf");
+    expectCurveAndHelp("potsilber06", "silver.rtf");
 }
 
 TEST_F(SilverForm, ListsItsSpecies) {
     open();
-    const char* terms[] = {"Ag+", "Na+", "Cl-", "NO3-"};
-    const int kinds[] = {kSilver, kSodium, kChloride, kNitrate};
-    for (int line = 0; line < 4; ++line) {
-        EXPECT_EQ(bench().lab_Bilanz(line).term(), terms[line]);
-        EXPECT_EQ(bench().lab_BilanzCount(line).tag(), kinds[line]);
-    }
+    expectSpecies({{"Ag+", kSilver}, {"Na+", kSodium}, {"Cl-", kChloride}, {"NO3-", kNitrate}});
     for (const char* name : {"pic_Bilanz", "lab_Bilanz", "lab_BilanzCount"}) {
-        EXPECT_TRUE(visible(name, 3));
         EXPECT_FALSE(visible(name, 4)) << name;
     }
 }
@@ -170,13 +147,7 @@ TEST_F(SilverForm, TheLiquidKeepsItsColour) {
 }
 
 TEST_F(SilverForm, LeavesTheSignOfChlorideAsItIs) {
-    for (const bool plain : {true, false}) {
-        session().PlainChloride = plain;
-        open();
-        EXPECT_EQ(session().PlainChloride, plain);
-        close();
-        EXPECT_EQ(session().PlainChloride, plain);
-    }
+    keepsTheSignOfChloride();
 }
 
 TEST_F(SilverForm, PipetteAndBuretteGiveTheirPairs) {
@@ -246,11 +217,6 @@ TEST_F(SilverForm, TheStartIsNeverDue) {
     EXPECT_TRUE(calcIsDue());
 }
 
-struct AnswerCase {
-    const char* text;
-    bool right;
-};
-
 class SilverAnswer : public SilverForm, public testing::WithParamInterface<AnswerCase> {};
 
 // 0.249 V at 4 mL, of which two decimals count.
@@ -258,21 +224,10 @@ TEST_P(SilverAnswer, CountsTwoDecimals) {
     open(1.0);
     addBase(4);
     bench().lab_pH.setText("?");
-    bench().but_Calc_Click();
-    bench().txt_Ph.userTyped(GetParam().text);
-    bench().but_CalcDone.userClicked();
-    EXPECT_EQ(bench().frm_CalcDirect.visible(), !GetParam().right);
-    EXPECT_EQ(bench().vWrong, GetParam().right ? 0 : 1);
+    judges(GetParam(), 0.25,
+           "Das von Dir errechnete Potential ist leider falsch! Soll ich Dir beim Errechnen "
+           "Schritt für Schritt helfen?");
     EXPECT_EQ(bench().lab_pH.text(), "?"); // only the tutor writes it
-    if (GetParam().right) {
-        EXPECT_EQ(session().SessionMySeries->Data.Y(1), 0.25);
-        EXPECT_EQ(host.sounds.played, std::vector<std::string>{"signal 2"});
-    } else {
-        expectBox("yesno", "Das von Dir errechnete Potential ist leider falsch! Soll ich Dir beim "
-                           "Errechnen Schritt für Schritt helfen?");
-        EXPECT_EQ(host.sounds.played, std::vector<std::string>{"signal 1"});
-        EXPECT_EQ(bench().Lab_Vallmista.text(), "1");
-    }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, SilverAnswer,

@@ -4,9 +4,6 @@
 namespace quendal::test {
 namespace {
 
-constexpr const char* kSolveChoice =
-    "Das ist leider immer noch falsch! Soll ich für dich das Richtige anklicken?";
-
 class SilverLadder : public SilverTest {
   protected:
     // Nothing of a learner's way is counted here but the mistakes.
@@ -17,37 +14,10 @@ class SilverLadder : public SilverTest {
     }
 };
 
-struct RungCase {
-    double concentration;
-    int ml;
-    HelpRow help;
-    bool anew; // the count of tries starts anew before the question
-};
-
-class SilverRung : public SilverLadder, public testing::WithParamInterface<RungCase> {
-  protected:
-    void SetUp() override {
-        beginPoint(GetParam().concentration, GetParam().ml);
-        goTo(help().step);
-        host.boxes.shown.clear();
-        host.sounds.played.clear();
-    }
-    const HelpRow& help() const { return GetParam().help; }
-};
+class SilverRung : public Rung<SilverLadder> {};
 
 TEST_P(SilverRung, OpensItsDetailOnYes) {
-    const int step = help().step;
-    twoMistakes(step, {BoxAnswer::Yes});
-    EXPECT_EQ(boxes(), (Boxes{kReminder, kHelp}));
-    EXPECT_TRUE(flag(help().flag));
-    EXPECT_EQ(number("vTries"), 0);
-    EXPECT_EQ(dueStep(), help().backTo);
-    EXPECT_TRUE(reached(help().backTo));
-    if (help().notReached != 0) {
-        EXPECT_FALSE(reached(help().notReached));
-    }
-    EXPECT_EQ(bench().vWrong, 2);
-    EXPECT_EQ(bench().Lab_Vallmista.text(), "2");
+    opensDetail(help());
     EXPECT_EQ(host.sounds.played, (std::vector<std::string>{"signal 1", "signal 1"}));
     expectUncounted();
 }
@@ -60,9 +30,7 @@ TEST_P(SilverRung, CountsTheTriesAnewWhereItIsTold) {
             triesAtQuestion = number("vTries");
         }
     };
-    twoMistakes(step, {BoxAnswer::No, BoxAnswer::No});
-    EXPECT_EQ(boxes(), (Boxes{kReminder, kHelp, kSolve}));
-    EXPECT_FALSE(flag(help().flag));
+    declinesAll(help());
     EXPECT_EQ(triesAtQuestion, GetParam().anew ? 0 : 2);
     EXPECT_EQ(number("vTries"), GetParam().anew ? 0 : 2);
     answerWrong(step);
@@ -72,11 +40,7 @@ TEST_P(SilverRung, CountsTheTriesAnewWhereItIsTold) {
 
 TEST_P(SilverRung, IsNotOfferedTwice) {
     const int step = help().step;
-    takeHelp(help());
-    goTo(step);
-    host.boxes.shown.clear();
-    twoMistakes(step, {BoxAnswer::No});
-    EXPECT_EQ(boxes(), (Boxes{kReminder, kSolve}));
+    offersNoSecondTime(help());
     answerWrong(step);
     EXPECT_EQ(lastBox().text, GetParam().anew ? kReminder : kSolve);
     expectUncounted();
@@ -93,44 +57,13 @@ INSTANTIATE_TEST_SUITE_P(All, SilverRung,
                                          RungCase{0.8, 8, {12, "vDetailFinal", 12}, true},
                                          RungCase{0.8, 9, {12, "vDetailFinal", 12}, true}));
 
-struct SolveCase {
-    double concentration;
-    int ml;
-    int step;
-    const char* text; // filled in
-    bool helpFirst;   // the detail is offered before
-};
-
 class SilverSolution : public SilverLadder, public testing::WithParamInterface<SolveCase> {};
 
 TEST_P(SilverSolution, IsFilledInOnYes) {
-    const SolveCase& row = GetParam();
-    beginPoint(row.concentration, row.ml);
-    for (const HelpRow& help : lesson().help) { // the long way there
-        if (row.step < help.step && row.step >= help.backTo && caseNumber() != 3) {
-            goTo(help.step);
-            takeHelp(help);
-            break;
-        }
-    }
-    goTo(row.step);
-    host.boxes.shown.clear();
-    twoMistakes(row.step, row.helpFirst ? std::deque{BoxAnswer::No, BoxAnswer::Yes}
-                                        : std::deque{BoxAnswer::Yes});
-    EXPECT_EQ(boxes().size(), row.helpFirst ? 3U : 2U);
-    EXPECT_EQ(lastBox().text, row.step == 7 ? kSolveChoice : kSolve);
+    beginSolution(GetParam());
+    takeSolution(GetParam());
     expectUncounted();
-    EXPECT_EQ(dueStep(), row.step);
-    if (row.step == 7) {
-        EXPECT_EQ(checkedOptions(), row.text);
-    } else {
-        EXPECT_EQ(input(row.step).text(), row.text);
-    }
-    const int wrong = bench().vWrong;
-    closeNextDialog();
-    stepButton(row.step).userClicked();
-    EXPECT_EQ(bench().vWrong, wrong);
-    EXPECT_EQ(visible("frm_Calc"), row.step != 12);
+    leaveSolution(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -164,11 +97,7 @@ TEST_F(SilverLadder, AForbiddenTutorSoundsTheAlarm) {
     beginPoint(1.0, 3);
     goTo(10);
     twoMistakes(10, {});
-    EXPECT_EQ(lastBox().kind, "alarm");
-    EXPECT_EQ(lastBox().title, "KLICKER-ALARM!");
-    EXPECT_EQ(lastBox().text,
-              "Der Lehrer hat mir verboten, Dir zu helfen! Bist Du etwa ein böser Klicker??? Du "
-              "mußt das schon alleine schaffen! Beachte die Informationen rechts an der Seite!");
+    expectAlarm();
     EXPECT_EQ(number("vTries"), 2); // no rung has been looked at
 }
 

@@ -1,17 +1,17 @@
 #include "weak_silver/silver_potential.h"
 
+#include "task_points.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <tuple>
 
 namespace quendal {
 namespace {
 
+using test::lg;
+
 // The formulas in long form, with the operations in the order in which a learner writes them.
-double lg(double x) {
-    return std::log(x) / std::log(10.0);
-}
 double potentialOf(double silverIon) {
     return 0.8 - 0.059 * lg(1.0 / silverIon);
 }
@@ -21,11 +21,11 @@ SilverReading readingAt(double concentration, int ml) {
                          (10 + ml) / 1000.0);
 }
 
-class SilverPoint : public testing::TestWithParam<std::tuple<double, int>> {};
+class SilverPoint : public testing::TestWithParam<test::TaskPoint> {};
 
 TEST_P(SilverPoint, IsExactlyTheFormulaOfItsSection) {
     const auto [concentration, ml] = GetParam();
-    const int equivalence = static_cast<int>(std::lround(10 * concentration)); // mL
+    const int equivalence = test::equivalenceMl(concentration);
     const double chloride = concentration * 0.01;
     const double silver = ml / 1000.0;
     const double volume = (10 + ml) / 1000.0;
@@ -56,9 +56,7 @@ TEST_P(SilverPoint, IsExactlyTheFormulaOfItsSection) {
     EXPECT_EQ(reading.potential, potentialOf(reading.silverIon));
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryTask, SilverPoint,
-                         testing::Combine(testing::Values(0.6, 0.8, 1.0, 1.2, 1.4),
-                                          testing::Range(0, 21)));
+INSTANTIATE_TEST_SUITE_P(EveryTask, SilverPoint, test::everyPoint(0));
 
 struct WorkedPoint {
     double concentration; // mol/L

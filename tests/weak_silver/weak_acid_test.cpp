@@ -1,19 +1,19 @@
 #include "weak_silver/weak_acid.h"
 
+#include "task_points.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <tuple>
 
 namespace quendal {
 namespace {
 
+using test::lg;
+
 // The formulas in long form, with the operations in the order in which a learner writes them.
-double lg(double x) {
-    return std::log(x) / std::log(10.0);
-}
 double pHOfAcid(double conc) {
     return (4.76 - lg(conc)) * 0.5;
 }
@@ -36,15 +36,15 @@ WeakAmounts amountsAt(double concentration, int ml) {
 
 // A settled beaker: each mL turns one HAc into Ac-, what comes behind stays OH-.
 WeakCase settledCase(double concentration, int ml) {
-    const int acid = static_cast<int>(std::lround(10 * concentration));
+    const int acid = test::equivalenceMl(concentration);
     return weakCaseOf(concentration, std::max(0, acid - ml), std::max(0, ml - acid)).value();
 }
 
-class WeakAcidPoint : public testing::TestWithParam<std::tuple<double, int>> {};
+class WeakAcidPoint : public testing::TestWithParam<test::TaskPoint> {};
 
 TEST_P(WeakAcidPoint, IsExactlyTheFormulaOfItsCase) {
     const auto [concentration, ml] = GetParam();
-    const int equivalence = static_cast<int>(std::lround(10 * concentration)); // mL
+    const int equivalence = test::equivalenceMl(concentration);
     const WeakAmounts n = amountsAt(concentration, ml);
     const WeakCase which = settledCase(concentration, ml);
     const WeakReading reading = weakReading(which, n).value();
@@ -70,9 +70,7 @@ TEST_P(WeakAcidPoint, IsExactlyTheFormulaOfItsCase) {
     EXPECT_EQ(reading.conc, concentration);
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryTask, WeakAcidPoint,
-                         testing::Combine(testing::Values(0.6, 0.8, 1.0, 1.2, 1.4),
-                                          testing::Range(0, 21)));
+INSTANTIATE_TEST_SUITE_P(EveryTask, WeakAcidPoint, test::everyPoint(0));
 
 struct WorkedPoint {
     double concentration; // mol/L

@@ -4,13 +4,7 @@
 namespace quendal::test {
 namespace {
 
-constexpr const char* kSolveChoice =
-    "Das ist leider immer noch falsch! Soll ich das Richtige anklicken?";
-
-class WeakLadder : public WeakTest {
-  protected:
-    const char* solveQuestion(int step) const { return step == 7 ? kSolveChoice : kSolve; }
-};
+class WeakLadder : public WeakTest {};
 
 TEST_F(WeakLadder, TheFirstMistakeIsOnlyCounted) {
     beginPoint(0.8, 3);
@@ -27,48 +21,19 @@ TEST_F(WeakLadder, TheFirstMistakeIsOnlyCounted) {
     EXPECT_EQ(bench().vHelpUsed, 0);
 }
 
-struct RungCase {
-    double concentration;
-    int ml;
-    HelpRow help;
-};
-
-class WeakRung : public WeakLadder, public testing::WithParamInterface<RungCase> {
-  protected:
-    void SetUp() override {
-        beginPoint(GetParam().concentration, GetParam().ml);
-        goTo(help().step);
-        host.boxes.shown.clear();
-    }
-    const HelpRow& help() const { return GetParam().help; }
-};
+class WeakRung : public Rung<WeakLadder> {};
 
 TEST_P(WeakRung, OpensItsDetailOnYes) {
-    const int step = help().step;
-    const std::string before = step == 7 ? "" : input(step).text();
-    twoMistakes(step, {BoxAnswer::Yes});
-    EXPECT_EQ(boxes(), (Boxes{kReminder, kHelp}));
-    EXPECT_TRUE(flag(help().flag));
+    opensDetail(help());
     EXPECT_EQ(bench().vHelpUsed, 1);
     EXPECT_EQ(bench().vSolveUsed, 0);
-    EXPECT_EQ(bench().vWrong, 2);
     EXPECT_EQ(host.control.progress.size(), 2U);
-    EXPECT_EQ(number("vTries"), 0);
-    EXPECT_EQ(dueStep(), help().backTo);
-    EXPECT_TRUE(reached(help().backTo));
-    if (help().notReached != 0) {
-        EXPECT_FALSE(reached(help().notReached));
-    }
     EXPECT_EQ(bench().lab_helpused.text(), "0"); // shown with the point
 }
 
 TEST_P(WeakRung, IsNotOfferedTwice) {
     const int step = help().step;
-    takeHelp(help());
-    goTo(step);
-    host.boxes.shown.clear();
-    twoMistakes(step, {BoxAnswer::No});
-    EXPECT_EQ(boxes(), (Boxes{kReminder, solveQuestion(step)}));
+    offersNoSecondTime(help());
     EXPECT_EQ(bench().vHelpUsed, 1);
     EXPECT_EQ(bench().vSolveUsed, 1);
     answerWrong(step);
@@ -78,9 +43,7 @@ TEST_P(WeakRung, IsNotOfferedTwice) {
 
 TEST_P(WeakRung, LeadsToTheNumbersOnNo) {
     const int step = help().step;
-    twoMistakes(step, {BoxAnswer::No, BoxAnswer::No});
-    EXPECT_EQ(boxes(), (Boxes{kReminder, kHelp, solveQuestion(step)}));
-    EXPECT_FALSE(flag(help().flag));
+    declinesAll(help());
     EXPECT_EQ(bench().vHelpUsed, 0);
     EXPECT_EQ(bench().vSolveUsed, 1);
     EXPECT_EQ(number("vTries"), 2);
@@ -106,53 +69,23 @@ INSTANTIATE_TEST_SUITE_P(All, WeakRung,
                                          RungCase{0.8, 3, {12, "vDetailFinal", 12}},
                                          RungCase{0.8, 8, {12, "vDetailFinal", 12}}));
 
-struct SolveCase {
-    double concentration;
-    int ml;
-    int step;
-    const char* text; // filled in
-    bool helpFirst;   // the detail is offered before
-};
-
 class WeakSolution : public WeakLadder, public testing::WithParamInterface<SolveCase> {};
 
 TEST_P(WeakSolution, IsCountedBeforeItIsAnsweredAndFilledIn) {
     const SolveCase& row = GetParam();
-    beginPoint(row.concentration, row.ml);
-    for (const HelpRow& help : lesson().help) { // the long way there
-        if (row.step < help.step && row.step >= help.backTo && helpAt(help.step) != nullptr) {
-            goTo(help.step);
-            takeHelp(help);
-            break;
-        }
-    }
-    goTo(row.step);
-    host.boxes.shown.clear();
+    beginSolution(row);
     int countedAtQuestion = -1;
     host.boxes.whileOpen = [&] {
         if (lastBox().text == solveQuestion(row.step)) {
             countedAtQuestion = bench().vSolveUsed;
         }
     };
-    twoMistakes(row.step, row.helpFirst ? std::deque{BoxAnswer::No, BoxAnswer::Yes}
-                                        : std::deque{BoxAnswer::Yes});
+    takeSolution(row);
     host.boxes.whileOpen = nullptr;
-    EXPECT_EQ(boxes().size(), row.helpFirst ? 3U : 2U);
-    EXPECT_EQ(lastBox().text, solveQuestion(row.step));
     EXPECT_EQ(countedAtQuestion, 1);
     EXPECT_EQ(bench().vSolveUsed, 1);
-    EXPECT_EQ(dueStep(), row.step); // the learner has to press the button
-    if (row.step == 7) {
-        EXPECT_EQ(checkedOptions(), row.text);
-    } else {
-        EXPECT_EQ(input(row.step).text(), row.text);
-    }
-    const int wrong = bench().vWrong;
-    closeNextDialog();
-    stepButton(row.step).userClicked();
-    EXPECT_EQ(bench().vWrong, wrong);
+    leaveSolution(row);
     EXPECT_EQ(number("vTries"), row.step == 12 ? 2 : 0); // the last step leaves the count
-    EXPECT_EQ(visible("frm_Calc"), row.step != 12);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -187,7 +120,7 @@ TEST_F(WeakLadder, TheConditionsStandBesideTheOptionsOnceTaken) {
     takeHelp(*helpAt(7));
     EXPECT_TRUE(visible("lab_optCalc", 2));
     twoMistakes(7, {BoxAnswer::Yes});
-    expectBox("yesno", kSolveChoice);
+    expectBox("yesno", solveQuestion(7));
     EXPECT_EQ(checkedOptions(), "1");
 }
 
@@ -195,12 +128,7 @@ TEST_F(WeakLadder, AForbiddenTutorSoundsTheAlarm) {
     session().SessionNoHelp = true;
     beginPoint(1.0, 3);
     twoMistakes(3, {BoxAnswer::Yes});
-    EXPECT_EQ(lastBox().kind, "alarm");
-    EXPECT_EQ(lastBox().title, "KLICKER-ALARM!");
-    EXPECT_EQ(lastBox().extra, "Ico\\32\\Computer\\Signs\\Stop.ico");
-    EXPECT_EQ(lastBox().text,
-              "Der Lehrer hat mir verboten, Dir zu helfen! Bist Du etwa ein böser Klicker??? Du "
-              "mußt das schon alleine schaffen! Beachte die Informationen rechts an der Seite!");
+    expectAlarm();
     EXPECT_EQ(bench().vSolveUsed, 0);
     EXPECT_FALSE(flag("vDetailAcid"));
 }

@@ -9,8 +9,16 @@
 #include "shell/forms/instances.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace quendal::test {
+
+// A line of the balance.
+struct SpeciesLine {
+    const char* term;
+    int kind;
+};
 
 class AnyBenchTest : public ShellTest {
   protected:
@@ -111,6 +119,44 @@ class AnyBenchTest : public ShellTest {
         EXPECT_EQ(lastBox().kind, kind);
         EXPECT_EQ(lastBox().text, text);
         EXPECT_EQ(lastBox().title, "");
+    }
+    // What a learner without help is told instead of the offer.
+    void expectAlarm() {
+        EXPECT_EQ(lastBox().kind, "alarm");
+        EXPECT_EQ(lastBox().title, "KLICKER-ALARM!");
+        EXPECT_EQ(lastBox().extra, "Ico\\32\\Computer\\Signs\\Stop.ico");
+        EXPECT_EQ(lastBox().text,
+                  "Der Lehrer hat mir verboten, Dir zu helfen! Bist Du etwa ein böser Klicker??? "
+                  "Du mußt das schon alleine schaffen! Beachte die Informationen rechts an der "
+                  "Seite!");
+    }
+    // The sheet of a task in `sample` and `reagent`, which changes `quantity`.
+    void expectTaskSheet(const std::string& sample, const std::string& reagent,
+                         const std::string& quantity) {
+        EXPECT_EQ(bench().lab_Step(0).text(), "Klicke auf die            Pipette, um 10 mL " +
+                                                  sample + " in das Becherglas fließen zu lassen");
+        EXPECT_EQ(bench().lab_Step1.text(),
+                  "Klick auf                               , um mit jedem Klick                "
+                  "einen  mL " +
+                      reagent + " ( c= 1 mol/L) zutropfen zu lassen.");
+        EXPECT_EQ(bench().lab_Step(1).text(),
+                  "Klick auf                                ,um den genauen pH-Wert zu berechnen.");
+        EXPECT_EQ(bench().lab_Step(2).text(),
+                  "Du hast die gesamte " + reagent + " zugegeben und dabei nach und nach " +
+                      quantity +
+                      " verändert. Sieh Dir Dein Ergebnis an, indem Du unten auf "
+                      "\"pH-Kurve anzeigen\" klickst.");
+    }
+    // The balance begins with these lines.
+    void expectSpecies(const std::vector<SpeciesLine>& lines) {
+        for (int line = 0; line < static_cast<int>(lines.size()); ++line) {
+            const SpeciesLine& row = lines[static_cast<std::size_t>(line)];
+            EXPECT_EQ(bench().lab_Bilanz(line).term(), row.term);
+            EXPECT_EQ(bench().lab_BilanzCount(line).tag(), row.kind);
+            for (const char* name : {"pic_Bilanz", "lab_Bilanz", "lab_BilanzCount"}) {
+                EXPECT_TRUE(visible(name, line)) << name << " of " << row.term;
+            }
+        }
     }
 
   private:

@@ -251,12 +251,7 @@ TEST_F(StrongGuidance, AForbiddenTutorSoundsTheAlarm) {
     answer(3, "1");
     expectBox("ok", kReminder);
     answer(3, "1");
-    EXPECT_EQ(lastBox().kind, "alarm");
-    EXPECT_EQ(lastBox().title, "KLICKER-ALARM!");
-    EXPECT_EQ(lastBox().extra, "Ico\\32\\Computer\\Signs\\Stop.ico");
-    EXPECT_EQ(lastBox().text,
-              "Der Lehrer hat mir verboten, Dir zu helfen! Bist Du etwa ein böser Klicker??? Du "
-              "mußt das schon alleine schaffen! Beachte die Informationen rechts an der Seite!");
+    expectAlarm();
     answer(3, "1");
     EXPECT_EQ(lastBox().kind, "alarm");
     EXPECT_EQ(host.boxes.shown.size(), 3U);

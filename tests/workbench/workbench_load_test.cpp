@@ -132,18 +132,7 @@ TEST_F(WorkbenchLoad, WritesTheTaskSheet) {
     open(0.8);
     EXPECT_EQ(bench().caption(), "Morvik // Quendal - Starke Säure mit starker Base");
     EXPECT_EQ(bench().windowState(), WindowState::Maximised);
-    EXPECT_EQ(bench().lab_Step(0).text(),
-              "Klicke auf die            Pipette, um 10 mL Salzsäure  (c = 0.8 mol/L) in das "
-              "Becherglas fließen zu lassen");
-    EXPECT_EQ(bench().lab_Step1.text(),
-              "Klick auf                               , um mit jedem Klick                einen  "
-              "mL Natronlauge ( c= 1 mol/L) zutropfen zu lassen.");
-    EXPECT_EQ(bench().lab_Step(1).text(),
-              "Klick auf                                ,um den genauen pH-Wert zu berechnen.");
-    EXPECT_EQ(bench().lab_Step(2).text(),
-              "Du hast die gesamte Natronlauge zugegeben und dabei nach und nach den pH-Wert "
-              "verändert. Sieh Dir Dein Ergebnis an, indem Du unten auf \"pH-Kurve anzeigen\" "
-              "klickst.");
+    expectTaskSheet("Salzsäure  (c = 0.8 mol/L)", "Natronlauge", "den pH-Wert");
     EXPECT_EQ(bench().but_Calc.text(), "Berechnen!");
     EXPECT_EQ(bench().ctl_Button2.text(), "Berechnen!");
     EXPECT_EQ(bench().controls().front(), &bench().pic_BowlOuter); // behind all others
@@ -181,11 +170,12 @@ TEST_F(WorkbenchLoad, ADemoHidesTheScore) {
 
 TEST_F(WorkbenchLoad, LabelsTheBalance) {
     open();
-    const int kinds[] = {kHydronium, kSodium, kHydrogenChloride, kChloride, kHydroxide};
-    const char* terms[] = {"H3O+", "Na+", "HCl", "Cl-", "OH-"};
+    expectSpecies({{"H3O+", kHydronium},
+                   {"Na+", kSodium},
+                   {"HCl", kHydrogenChloride},
+                   {"Cl-", kChloride},
+                   {"OH-", kHydroxide}});
     for (int i = 0; i < 5; ++i) {
-        EXPECT_EQ(bench().lab_BilanzCount(i).tag(), kinds[i]);
-        EXPECT_EQ(bench().lab_Bilanz(i).term(), terms[i]);
         EXPECT_EQ(bench().lab_BilanzCount(i).term(), "0 mol");
         EXPECT_EQ(bench().lab_Bilanz(i).font().size, points(16));
         EXPECT_EQ(bench().lab_BilanzCount(i).font().size, points(16));
