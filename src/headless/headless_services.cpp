@@ -3,6 +3,7 @@
 #include "host/file_service.h"
 #include "host/host_observer.h"
 #include "host/log.h"
+#include "host/picture_bytes.h"
 
 #include <algorithm>
 #include <optional>
@@ -80,7 +81,7 @@ namespace {
 PicturePtr readGifSize(std::string_view bytes) {
     constexpr std::size_t kHeaderSize = 13;
     const bool gif = bytes.starts_with("GIF87a") || bytes.starts_with("GIF89a");
-    if (!gif || bytes.size() < kHeaderSize) {
+    if (!gif || bytes.size() < kHeaderSize || isGifCutShort(bytes)) {
         return nullptr;
     }
     const auto number = [&](std::size_t at) {

@@ -1,9 +1,11 @@
 // Pictures: surfaces, copies, icons, the mascot.
+#include "desktop/box_form.h"
 #include "desktop/window_rig.h"
 
 #include "desktop/pictures/desktop_picture.h"
 #include "desktop/pictures/picture_surface.h"
 #include "desktop/windows/atom_face.h"
+#include "host/file_service.h"
 #include "host/log.h"
 
 #include <QPainter>
@@ -13,15 +15,6 @@
 namespace quendal::test {
 
 namespace {
-
-class BoxForm final : public Form {
-  public:
-    BoxForm() : Form("frm_Box", {200, 100}) {
-        box.setPlace(0, 0, 200, 100);
-        box.setBackColor({255, 255, 255});
-    }
-    PictureBox box{*this, "box"};
-};
 
 class SurfaceTest : public testing::Test {
   protected:
@@ -188,6 +181,16 @@ TEST_F(GraphicsTest, AMissingOrBrokenPictureIsNullAndOneLoggedLine) {
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_NE(lines[0].find("nothing.gif"), std::string::npos);
     EXPECT_NE(lines[1].find("ph.crv"), std::string::npos);
+}
+
+TEST_F(GraphicsTest, APictureCutShortIsBroken) {
+    const std::string data = HostApp().PathService.DataPath();
+    const std::string whole = CoreLib().FileService.read(data + "lens_mask.gif").value();
+    EXPECT_EQ(decodePicture(whole).size(), QSize(592, 444));
+    EXPECT_FALSE(decodePicture(whole + std::string(3, '\0')).isNull());
+    for (const std::size_t size : {whole.size() / 2, whole.size() - 1, std::size_t{20}}) {
+        EXPECT_TRUE(decodePicture(whole.substr(0, size)).isNull()) << size;
+    }
 }
 
 TEST_F(GraphicsTest, TheButtonColourIsThePlainOne) {

@@ -113,6 +113,14 @@ TEST_F(LensTest, ItCoversTheWholeScreenInPixels) {
     EXPECT_EQ(host.windows().scaleOf(lens), 1);
 }
 
+TEST_F(LensTest, ItMakesDoWithAScreenBelowItsDesignSize) {
+    host.windows().setScreen({300, 200});
+    playOver([&] {
+        EXPECT_EQ(lens.inner(), (Size{300, 200}));
+        lens.ended = "test";
+    });
+}
+
 TEST_F(LensTest, OnTheRealScreenItIsFullScreen) {
     host.windows().setScreen({});
     playOver([&] {

@@ -4,31 +4,15 @@
 #include "desktop/windows/look.h"
 #include "host/log.h"
 
-#include <QBuffer>
-#include <QImageReader>
-
 namespace quendal {
 
 namespace {
-
-constexpr int kLargestSide = 8192; // px; a picture beyond it is taken for broken
 
 // `folder/x3/name` for `folder/name`.
 std::string twinName(const std::string& path) {
     const std::size_t cut = path.find_last_of("/\\");
     const std::size_t start = cut == std::string::npos ? 0 : cut + 1;
     return path.substr(0, start) + "x3/" + path.substr(start);
-}
-
-QImage decode(const std::string& bytes) {
-    QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    QBuffer buffer(&data);
-    QImageReader reader(&buffer);
-    const QSize size = reader.size();
-    if (size.width() > kLargestSide || size.height() > kLargestSide) {
-        return {};
-    }
-    return reader.read();
 }
 
 } // namespace
@@ -43,7 +27,7 @@ PicturePtr DesktopGraphics::LoadPicture(const std::string& path) {
         logLine("picture missing: " + path);
         return nullptr;
     }
-    QImage image = decode(*bytes);
+    QImage image = decodePicture(*bytes);
     if (image.isNull()) {
         logLine("picture broken: " + path);
         return nullptr;

@@ -2,6 +2,11 @@
 
 #include "desktop/pictures/stretch.h"
 #include "host/log.h"
+#include "host/picture_bytes.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
 
 #include <algorithm>
 #include <cmath>
@@ -10,6 +15,7 @@ namespace quendal {
 
 namespace {
 
+constexpr int kLargestSide = 8192; // px; a picture beyond it is taken for broken
 constexpr std::size_t kKeptSizes = 3;
 constexpr std::size_t kKeptCuts = 4;
 constexpr double kTwinFrom = 1.05; // below it the file itself has all the detail
@@ -49,11 +55,27 @@ std::shared_ptr<const DesktopPicture> DesktopPicture::withDetail(QImage image,
     return picture;
 }
 
+QImage decodePicture(const std::string& bytes) {
+    if (isGifCutShort(bytes)) {
+        return {};
+    }
+    QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QBuffer buffer(&data);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    if (size.width() > kLargestSide || size.height() > kLargestSide) {
+        return {};
+    }
+    return reader.read();
+}
+
 QImage DesktopPicture::loadTwin() const {
     if (!twin_.isNull() || twinFile_.isEmpty()) {
         return twin_;
     }
-    const QImage twin(twinFile_);
+    QFile file(twinFile_);
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QImage twin = decodePicture(bytes.toStdString());
     if (twin.isNull()) {
         logLine("picture broken: " + twinFile_.toStdString());
         twinFile_.clear(); // the file itself has to do; said once

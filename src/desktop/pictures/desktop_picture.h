@@ -10,9 +10,13 @@
 #include <QString>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace quendal {
+
+// Null for bytes that are no picture, a huge one or a GIF that is cut short.
+QImage decodePicture(const std::string& bytes);
 
 class DesktopPicture final : public Picture {
   public:

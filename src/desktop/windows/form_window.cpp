@@ -234,7 +234,8 @@ void FormWindow::arrange() {
         peer->refresh();
     }
     QToolTip::setFont(look::font(look::kTextSize, scale_));
-    const Size design = form_->designSize();
+    // A form that scales itself makes do with whatever there is.
+    const Size design = form_->scalesItself() ? Size{} : form_->designSize();
     const Visit visit(*this);
     owner_.innerSize(*form_, {std::max(design.width, content_->width() / scale_),
                               std::max(design.height, content_->height() / scale_)});
