@@ -160,9 +160,9 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     virtual std::optional<Reading> presentReading() = 0;
     // What a form adds to the end of a frame, and to an accepted click on the burette.
     virtual void frameDone() {}
+    virtual void reagentComing() {}
     // False: no direct answer is right at this point.
     virtual bool answerable() const { return true; }
-    virtual void reagentComing() {}
 
     // One paced turn: events, a frame, events, sleep to 20 ms.
     void turn();
