@@ -16,8 +16,11 @@ set(QUENDAL_DESKTOP_SERVICES
   boxes/desktop_message_box.cpp
   boxes/veil.cpp
   boxes/wrapped_text.cpp
+  charts/chart_legend.cpp
   charts/chart_plot.cpp
   charts/chart_snapshot.cpp
+  charts/chemical_term.cpp
+  charts/fitted_segments.cpp
   charts/qcustomplot_chart_painter.cpp
   script/synthetic_input.cpp
   services/data_folder.cpp

@@ -30,7 +30,7 @@ class HeadlessMessageBox final : public MessageBox {
 // Counts the charts that would be drawn.
 class CountingChartPainter final : public ChartPainter {
   public:
-    void render(const ChartDocument&, PictureBox&, double) override { ++renders_; }
+    void render(const ChartView&, PictureBox&, double) override { ++renders_; }
     long renders() const { return renders_; }
 
   private:

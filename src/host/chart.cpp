@@ -41,6 +41,11 @@ double SeriesData::Y(int i) const {
     return at ? points_[*at].y : 0;
 }
 
+void SeriesData::Sort() {
+    std::stable_sort(points_.begin(), points_.end(),
+                     [](const Point& a, const Point& b) { return a.x < b.x; });
+}
+
 // Worked out from the differences to the centre: points far from zero cost no digits.
 std::optional<FittedLine> fitLine(const SeriesData& data, int first, int last) {
     first = std::max(first, 1);
@@ -51,7 +56,11 @@ std::optional<FittedLine> fitLine(const SeriesData& data, int first, int last) {
     const Point centre = centreOf(data.points(), first, last);
     double xx = 0;
     double xy = 0;
+    double from = data.X(first);
+    double to = from;
     for (int i = first; i <= last; ++i) {
+        from = std::min(from, data.X(i));
+        to = std::max(to, data.X(i));
         const double dx = data.X(i) - centre.x;
         xx += dx * dx;
         xy += dx * (data.Y(i) - centre.y);
@@ -61,19 +70,19 @@ std::optional<FittedLine> fitLine(const SeriesData& data, int first, int last) {
     if (xx == 0 || !std::isfinite(slope) || !std::isfinite(intercept)) {
         return std::nullopt;
     }
-    return FittedLine{.slope = slope, .intercept = intercept};
+    return FittedLine{.slope = slope, .intercept = intercept, .from = from, .to = to};
 }
 
 void ChartView::RenderTo(PictureBox& picture, double, double, double scale) {
     target_ = &picture;
     targetLife_ = picture.life();
     scale_ = scale;
-    document_.painter().render(document_, picture, scale);
+    document_.painter().render(*this, picture, scale);
 }
 
 void ChartView::Redraw(int) {
     if (!targetLife_.expired()) {
-        document_.painter().render(document_, *target_, scale_);
+        document_.painter().render(*this, *target_, scale_);
     }
 }
 
@@ -81,8 +90,22 @@ void ChartView::SetActiveSeries(int index, int) {
     activeSeries_ = index;
 }
 
+std::vector<const ChartSeries*> ChartView::shown() const {
+    if (!only_.empty()) {
+        return only_;
+    }
+    std::vector<const ChartSeries*> all;
+    const ChartDocument& document = document_;
+    for (int i = 1; i <= document.seriesCount(); ++i) {
+        all.push_back(&document.Series(i));
+    }
+    return all;
+}
+
 ChartDocument::ChartDocument(ChartPainter& painter, std::string documentName)
-    : name(std::move(documentName)), painter_(painter), view_(*this), nowhere_(std::string()) {}
+    : name(std::move(documentName)), painter_(painter), nowhere_(std::string()) {
+    AddView({});
+}
 
 ChartSeries& ChartDocument::Series(int index) {
     if (const auto at = position(index, seriesCount())) {
@@ -98,8 +121,12 @@ const ChartSeries& ChartDocument::Series(int index) const {
     return at ? *series_[*at] : nowhere_;
 }
 
-ChartView& ChartDocument::Axes(int) {
-    return view_;
+ChartView& ChartDocument::Axes(int index) {
+    return *views_[position(index, static_cast<int>(views_.size())).value_or(0)];
+}
+
+ChartView& ChartDocument::AddView(const std::string& viewName) {
+    return *views_.emplace_back(std::make_unique<ChartView>(*this, viewName));
 }
 
 ChartSeries& ChartDocument::AddSeries(int, const std::string& seriesName) {

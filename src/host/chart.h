@@ -4,6 +4,7 @@
 #include "host/color.h"
 #include "host/geometry.h"
 
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,28 +15,33 @@ namespace quendal {
 
 class PictureBox;
 class ChartDocument;
+class ChartView;
 class FileService;
 
-// Draws a document; a host supplies it.
+// Draws a view of a document; a host supplies it.
 class ChartPainter {
   public:
     virtual ~ChartPainter() = default;
     // `scale` is the size of the lettering in points on the design grid.
-    virtual void render(const ChartDocument& document, PictureBox& target, double scale) = 0;
+    virtual void render(const ChartView& view, PictureBox& target, double scale) = 0;
 };
+
+enum class Marker { FilledCircle = 2, Square = 3, Triangle = 4, Diamond = 5, TriangleDown = 6 };
 
 struct SeriesStyle {
     bool LineVisible = true;
     bool MarkerVisible = false;
-    int MarkerStyle = 0; // 2 is the filled circle
-    int MarkerSize = 6;  // design px
+    Marker MarkerStyle = Marker::Square;
+    int MarkerSize = 6; // design px
     int MarkerSetting = 8;
-    Color Colour = palette(1);
+    std::optional<Color> Colour; // none: one of the painter's own
 };
 
 class SeriesData {
   public:
     void Add(double x, double y) { points_.push_back({x, y}); }
+    // By x; points with the same x keep their order. The last x is then the largest.
+    void Sort();
     int Count() const { return static_cast<int>(points_.size()); }
     // i from 1; outside 1 to Count the value is 0.
     double X(int i) const;
@@ -52,6 +58,10 @@ class SeriesData {
 struct FittedLine {
     double slope = 0;
     double intercept = 0;
+    // x of the outer points it was fitted through. Between these and those of a neighbour the two
+    // lines are drawn to a little beyond where they cross.
+    double from = -std::numeric_limits<double>::infinity();
+    double to = std::numeric_limits<double>::infinity();
 };
 
 // Least squares through points `first` to `last`, counted from 1 and cut to what is there. nullopt
@@ -69,15 +79,22 @@ class ChartSeries {
     explicit ChartSeries(std::string seriesName) : name(std::move(seriesName)) {}
 
     std::string name;
+    std::string shortName; // in a legend of one line; empty: the name
     SeriesData Data;
     SeriesStyle Style;
     SeriesAxes Axes;
     std::vector<FittedLine> fittedLines;
 };
 
+// What of a document is drawn, and where it was drawn last.
 class ChartView {
   public:
-    explicit ChartView(ChartDocument& document) : document_(document) {}
+    explicit ChartView(ChartDocument& document, std::string viewName = {})
+        : name(std::move(viewName)), document_(document) {}
+
+    std::string name;
+    // What stands in a chart without any point.
+    std::string emptyNote = "Zu dieser Aufgabe liegt keine Kurve vor.";
 
     // Draws the chart into a picture; x and y are always 0.
     void RenderTo(PictureBox& picture, double x, double y, double scale);
@@ -87,8 +104,20 @@ class ChartView {
     void SetActiveSeries(int index, int unused);
     int activeSeries() const { return activeSeries_; }
 
+    // Draws these series of the document and no others. The axes stay those of the whole document,
+    // so that a curve can grow without its axes moving.
+    void ShowOnly(std::vector<const ChartSeries*> series) { only_ = std::move(series); }
+    // The axes also hold this point, which isn't drawn.
+    void KeepRoomFor(Point point) { reserved_.push_back(point); }
+    const std::vector<Point>& reserved() const { return reserved_; }
+    // What is drawn, in this order.
+    std::vector<const ChartSeries*> shown() const;
+    const ChartDocument& document() const { return document_; }
+
   private:
     ChartDocument& document_;
+    std::vector<const ChartSeries*> only_; // none: all
+    std::vector<Point> reserved_;
     PictureBox* target_ = nullptr; // valid while targetLife_ lasts
     std::weak_ptr<const void> targetLife_;
     double scale_ = 8.0;
@@ -110,9 +139,11 @@ class ChartDocument {
     // a form runs on when a curve file is missing.
     ChartSeries& Series(int index);
     const ChartSeries& Series(int index) const;
-    // Index 1; there is one view.
+    // Index from 1; any other gives the first, which shows the whole document.
     ChartView& Axes(int index);
-    ChartView& View() { return view_; }
+    ChartView& View() { return Axes(1); }
+    // A further view, which stays where it is until the document closes.
+    ChartView& AddView(const std::string& viewName);
     // The first argument is always 1. The series stays where it is until the document closes.
     ChartSeries& AddSeries(int unused, const std::string& seriesName);
     // Where the series stands, from 1; 0 when it is not of this document.
@@ -121,7 +152,7 @@ class ChartDocument {
 
   private:
     ChartPainter& painter_;
-    ChartView view_;
+    std::vector<std::unique_ptr<ChartView>> views_;
     std::vector<std::unique_ptr<ChartSeries>> series_;
     ChartSeries nowhere_;
 };

@@ -48,7 +48,7 @@ void Workbench::openCurve() {
     mine.Axes = reference.Axes;
     mine.Style = {.LineVisible = false,
                   .MarkerVisible = true,
-                  .MarkerStyle = 2,
+                  .MarkerStyle = Marker::FilledCircle,
                   .MarkerSize = 6,
                   .MarkerSetting = 8,
                   .Colour = palette(12)};

@@ -1,23 +1,16 @@
 // The curves of the data folder as the program reads them, and where a learner's points lie to
 // them.
-#include "host/chart.h"
+#include "data_curve.h"
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace quendal {
 namespace {
-
-class NoPainter final : public ChartPainter {
-  public:
-    void render(const ChartDocument&, PictureBox&, double) override {}
-};
 
 // Amounts in mmol: with reagents of 1 mol/L one millilitre is one millimole.
 struct Beaker {
@@ -112,12 +105,7 @@ std::string fileName(const Curve& curve) {
 
 class CurveData : public testing::TestWithParam<Curve> {
   protected:
-    void SetUp() override {
-        std::ifstream stream(QUENDAL_SOURCE_DIR "/data/" + fileName(GetParam()), std::ios::binary);
-        const std::string text{std::istreambuf_iterator<char>(stream), {}};
-        std::string fault;
-        ASSERT_TRUE(readCurve(text, document_, fault)) << fault;
-    }
+    void SetUp() override { ASSERT_TRUE(file_.fault.empty()) << file_.fault; }
 
     const SeriesData& data() const { return document_.Series(1).Data; }
     double distance(int millilitres) const {
@@ -125,8 +113,8 @@ class CurveData : public testing::TestWithParam<Curve> {
         return std::abs(data().Y(1 + 10 * millilitres) - GetParam().family.learners(beaker));
     }
 
-    NoPainter painter_;
-    ChartDocument document_{painter_, "test"};
+    DataCurve file_{fileName(GetParam())};
+    const ChartDocument& document_ = file_.document;
 };
 
 TEST_P(CurveData, NamesItsAxesAndItsSeries) {

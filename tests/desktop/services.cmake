@@ -4,7 +4,10 @@ quendal_tests(desktop_services_test
     services_main.cpp
     services_box_test.cpp
     services_calculator_test.cpp
+    services_chart_legend_test.cpp
+    services_chart_line_test.cpp
     services_chart_test.cpp
+    services_chart_view_test.cpp
     services_command_line_test.cpp
     services_control_test.cpp
     services_data_folder_test.cpp
@@ -16,4 +19,5 @@ quendal_tests(desktop_services_test
 
 # Pictures of boxes, calculator and chart, for looking: quendal_desktop_services_gallery FOLDER
 add_executable(quendal_desktop_services_gallery services_gallery.cpp)
-target_link_libraries(quendal_desktop_services_gallery PRIVATE quendal_desktop)
+target_link_libraries(quendal_desktop_services_gallery
+  PRIVATE quendal_desktop quendal_test_support)

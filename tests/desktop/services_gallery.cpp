@@ -2,9 +2,11 @@
 // quendal_desktop_services_gallery FOLDER
 #include "desktop/boxes/box_window.h"
 #include "desktop/charts/chart_plot.h"
+#include "desktop/charts/qcustomplot_chart_painter.h"
 #include "desktop/desktop_host.h"
 #include "desktop/script/synthetic_input.h"
 #include "host/calc_presets.h"
+#include "support/conductivity_chart.h"
 
 #include <QApplication>
 #include <QDir>
@@ -62,17 +64,44 @@ void showCalculator(const QDir& folder) {
     HostApp().Calculator.Show(0, 0, 3000, 1500, presets);
 }
 
+void savePlot(const ChartView& view, QSizeF size, double scale, const QString& file) {
+    plotChart(ChartSnapshot::of(view, 8), (size * scale).toSize(), scale).save(file);
+}
+
 void showChart(const QDir& folder) {
     ChartDocuments& documents = HostApp().Calculator.ChartFactory().Documents();
     ChartDocument& curve =
         documents.Open(HostApp().PathService.DataPath() + "phstark10.crv", 0, 0, 0);
     ChartSeries& mine = curve.AddSeries(1, "Meine pH-Rechnungen");
-    mine.Style = {.LineVisible = false, .MarkerVisible = true, .MarkerStyle = 2};
+    mine.Style = {.LineVisible = false, .MarkerVisible = true, .MarkerStyle = Marker::FilledCircle};
     mine.Style.Colour = palette(12);
     for (const Point point : {Point{0, 0}, Point{5, 0.477}, Point{9, 1.279}, Point{10, 7}}) {
         mine.Data.Add(point.x, point.y);
     }
-    plotChart(ChartSnapshot::of(curve, 8), {900, 560}, 1).save(folder.filePath("chart.png"));
+    savePlot(curve.View(), {900, 560}, 1, folder.filePath("chart.png"));
+}
+
+// A learner's conductivities of a strong acid with a strong base beside those of the curve file,
+// point by point and with the break, as panel of a form and in a window.
+void showConductivity(const QDir& folder) {
+    QCustomPlotChartPainter painter;
+    ChartDocument document(painter, "conductivity");
+    test::ConductivityChart chart(document);
+    constexpr QSizeF kPanel(428, 196);
+    constexpr QSizeF kWindow(908, 520);
+    for (const int height : {690, 768, 1080}) { // of the screen
+        const double scale = height / 690.0;
+        const auto file = [&](const char* what) {
+            return folder.filePath(QString("conductivity-%1-%2.png").arg(what).arg(height));
+        };
+        chart.calculate(0);
+        savePlot(chart.mine(), kPanel, scale, file("empty"));
+        chart.calculate(8);
+        savePlot(chart.mine(), kPanel, scale, file("open"));
+        chart.calculate(21);
+        savePlot(chart.mine(), kPanel, scale, file("break"));
+        savePlot(chart.all(), kWindow, scale, file("compared"));
+    }
 }
 
 } // namespace
@@ -89,5 +118,6 @@ int main(int argc, char** argv) {
     showBoxes(folder);
     showCalculator(folder);
     showChart(folder);
+    showConductivity(folder);
     return 0;
 }

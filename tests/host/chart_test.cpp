@@ -15,11 +15,11 @@ namespace {
 
 class RecordingPainter final : public ChartPainter {
   public:
-    void render(const ChartDocument& document, PictureBox& target, double scale) override {
-        calls.push_back({&document, &target, scale});
+    void render(const ChartView& view, PictureBox& target, double scale) override {
+        calls.push_back({&view, &target, scale});
     }
     struct Call {
-        const ChartDocument* document;
+        const ChartView* view;
         PictureBox* target;
         double scale;
     };
@@ -109,6 +109,7 @@ class Window final : public Form {
   public:
     Window() : Form("frm_Test", {100, 100}) {}
     PictureBox pic_Graph{*this, "pic_Graph"};
+    PictureBox pic_pH{*this, "pic_pH"};
 };
 
 TEST_F(Chart, RendersAndRedraws) {
@@ -119,7 +120,7 @@ TEST_F(Chart, RendersAndRedraws) {
     document.Axes(1).RenderTo(window.pic_Graph, 0, 0, 8.0);
     document.View().Redraw(0);
     ASSERT_EQ(painter.calls.size(), 2U);
-    EXPECT_EQ(painter.calls[1].document, &document);
+    EXPECT_EQ(painter.calls[1].view, &document.View());
     EXPECT_EQ(painter.calls[1].target, &window.pic_Graph);
     EXPECT_EQ(painter.calls[1].scale, 8.0);
 }
@@ -134,11 +135,101 @@ TEST_F(Chart, NothingIsRedrawnIntoAPictureThatIsGone) {
     EXPECT_EQ(painter.calls.size(), 1U);
 }
 
+TEST_F(Chart, EachViewIsRedrawnIntoItsOwnPicture) {
+    ChartDocument& document = documents.Open("ph.crv", 0, 0, 0);
+    ChartView& mine = document.AddView("Mein Graph");
+    Window window;
+    document.View().RenderTo(window.pic_pH, 0, 0, 8.0);
+    mine.RenderTo(window.pic_Graph, 0, 0, 9.0);
+    mine.Redraw(0);
+    document.View().Redraw(0);
+    ASSERT_EQ(painter.calls.size(), 4U);
+    EXPECT_EQ(painter.calls[2].view, &mine);
+    EXPECT_EQ(painter.calls[2].target, &window.pic_Graph);
+    EXPECT_EQ(painter.calls[2].scale, 9.0);
+    EXPECT_EQ(painter.calls[3].view, &document.View());
+    EXPECT_EQ(painter.calls[3].target, &window.pic_pH);
+    EXPECT_EQ(painter.calls[3].scale, 8.0);
+}
+
+TEST_F(Chart, AViewWhosePictureHasGoneLeavesTheOthersAlone) {
+    ChartDocument& document = documents.Open("ph.crv", 0, 0, 0);
+    ChartView& mine = document.AddView("Mein Graph");
+    Window form;
+    mine.RenderTo(form.pic_Graph, 0, 0, 8.0);
+    {
+        Window dialog;
+        document.View().RenderTo(dialog.pic_pH, 0, 0, 8.0);
+    }
+    document.View().Redraw(0);
+    EXPECT_EQ(painter.calls.size(), 2U);
+    mine.Redraw(0);
+    ASSERT_EQ(painter.calls.size(), 3U);
+    EXPECT_EQ(painter.calls[2].target, &form.pic_Graph);
+}
+
+TEST_F(Chart, AddedViewsStayWhereTheyAre) {
+    ChartDocument& document = documents.Open("ph.crv", 0, 0, 0);
+    ChartView& whole = document.Axes(1);
+    ChartView& mine = document.AddView("Mein Graph");
+    for (int i = 0; i < 50; ++i) {
+        document.AddView("x");
+    }
+    EXPECT_EQ(&document.Axes(1), &whole);
+    EXPECT_EQ(&document.Axes(2), &mine);
+    EXPECT_EQ(mine.name, "Mein Graph");
+    EXPECT_EQ(&mine.document(), &document);
+}
+
+TEST_F(Chart, AViewThatIsNotThereIsTheFirst) {
+    ChartDocument& document = documents.Open("ph.crv", 0, 0, 0);
+    document.AddView("Mein Graph");
+    for (const int index : {-1, 0, 3, 99}) {
+        EXPECT_EQ(&document.Axes(index), &document.View()) << index;
+    }
+}
+
+TEST_F(Chart, AViewShowsTheWholeDocumentOrWhatItIsTold) {
+    ChartDocument& document = documents.Open("ph.crv", 0, 0, 0);
+    ChartSeries& second = document.AddSeries(1, "b");
+    ChartSeries& third = document.AddSeries(1, "c");
+    using Shown = std::vector<const ChartSeries*>;
+    ChartView& mine = document.AddView("Mein Graph");
+    EXPECT_EQ(mine.shown(), (Shown{&document.Series(1), &second, &third}));
+    mine.ShowOnly({&third, &second});
+    EXPECT_EQ(mine.shown(), (Shown{&third, &second}));
+    document.AddSeries(1, "d");
+    EXPECT_EQ(mine.shown(), (Shown{&third, &second}));
+    EXPECT_EQ(document.View().shown().size(), 4U);
+}
+
+TEST_F(Chart, AViewKeepsRoomForPoints) {
+    ChartView& view = documents.Open("ph.crv", 0, 0, 0).View();
+    EXPECT_TRUE(view.reserved().empty());
+    view.KeepRoomFor({20, 42.6});
+    ASSERT_EQ(view.reserved().size(), 1U);
+    EXPECT_EQ(view.reserved()[0].y, 42.6);
+}
+
 TEST_F(Chart, KnowsItsActiveSeries) {
     ChartView& view = documents.Open("ph.crv", 0, 0, 0).Axes(1);
     EXPECT_EQ(view.activeSeries(), 1);
     view.SetActiveSeries(2, -1);
     EXPECT_EQ(view.activeSeries(), 2);
+}
+
+TEST(SeriesData, SortsByX) {
+    SeriesData data;
+    for (const Point point : {Point{12.5, 1}, Point{3, 2}, Point{12.5, 3}, Point{0, 4}}) {
+        data.Add(point.x, point.y);
+    }
+    EXPECT_EQ(data.LastX(), 0);
+    data.Sort();
+    EXPECT_EQ(data.LastX(), 12.5);
+    const double ys[] = {4, 2, 1, 3}; // points with the same x keep their order
+    for (int i = 1; i <= 4; ++i) {
+        EXPECT_EQ(data.Y(i), ys[i - 1]) << i;
+    }
 }
 
 SeriesData line(double slope, double intercept, int count) {
@@ -165,6 +256,17 @@ TEST(FitLine, HasTheLeastSquares) {
     ASSERT_TRUE(fit);
     EXPECT_NEAR(fit->slope, 0.5, 1e-12);
     EXPECT_NEAR(fit->intercept, 1, 1e-12);
+}
+
+TEST(FitLine, KnowsTheOuterPointsOfTheLine) {
+    SeriesData data = line(2, 0, 5);
+    data.Add(0.5, 1); // added late
+    const auto all = fitLine(data, 1, 6);
+    EXPECT_EQ(all->from, 0.5);
+    EXPECT_EQ(all->to, 5);
+    const auto part = fitLine(data, 2, 4);
+    EXPECT_EQ(part->from, 2);
+    EXPECT_EQ(part->to, 4);
 }
 
 TEST(FitLine, CutsTheRange) {

@@ -8,7 +8,7 @@ namespace {
 
 class NoPainter final : public ChartPainter {
   public:
-    void render(const ChartDocument&, PictureBox&, double) override {}
+    void render(const ChartView&, PictureBox&, double) override {}
 };
 
 struct Reading {

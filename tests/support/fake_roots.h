@@ -195,11 +195,14 @@ class FakeHostControl final : public HostControl {
 
 class BlindPainter final : public ChartPainter {
   public:
-    void render(const ChartDocument& /*document*/, PictureBox& /*target*/,
-                double /*scale*/) override {
+    void render(const ChartView& view, PictureBox& target, double /*scale*/) override {
         ++renders;
+        lastView = &view;
+        lastTarget = &target;
     }
     int renders = 0;
+    const ChartView* lastView = nullptr; // both may be gone by now
+    const PictureBox* lastTarget = nullptr;
 };
 
 class FakeCalculator final : public Calculator {

@@ -73,7 +73,7 @@ TEST_F(WorkbenchLoad, AddsTheLearnersSeriesAsRedMarkers) {
     EXPECT_EQ(mine.name, "Meine pH-Rechnungen");
     EXPECT_FALSE(mine.Style.LineVisible);
     EXPECT_TRUE(mine.Style.MarkerVisible);
-    EXPECT_EQ(mine.Style.MarkerStyle, 2);
+    EXPECT_EQ(mine.Style.MarkerStyle, Marker::FilledCircle);
     EXPECT_EQ(mine.Style.MarkerSize, 6);
     EXPECT_EQ(mine.Style.MarkerSetting, 8);
     EXPECT_EQ(mine.Style.Colour, palette(12));

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 
 namespace quendal {
 
@@ -29,19 +28,19 @@ void forEachPoint(const ChartSnapshot& chart, Use use) {
 }
 
 ChartRange rangeOf(const ChartSnapshot& chart, double Point::*axis, ChartRange otherwise) {
-    constexpr double kNone = std::numeric_limits<double>::infinity();
-    ChartRange found{kNone, -kNone};
-    forEachPoint(chart, [&](const Point& point) {
-        found.lower = std::min(found.lower, point.*axis);
-        found.upper = std::max(found.upper, point.*axis);
-    });
-    if (found.lower > found.upper) {
+    ChartExtent found = chart.sheet;
+    for (const ChartSeries& series : chart.series) {
+        found.include(series);
+    }
+    const double least = found.least.*axis;
+    const double greatest = found.greatest.*axis;
+    if (least > greatest) {
         return otherwise;
     }
-    const double span = found.upper - found.lower;
-    const double step = roundStep(span > 0 ? span : std::max(1.0, std::abs(found.lower)), kParts);
-    const double lower = std::floor(found.lower / step) * step;
-    const double upper = std::ceil(found.upper / step) * step;
+    const double span = greatest - least;
+    const double step = roundStep(span > 0 ? span : std::max(1.0, std::abs(least)), kParts);
+    const double lower = std::floor(least / step) * step;
+    const double upper = std::ceil(greatest / step) * step;
     return {lower, upper > lower ? upper : lower + step};
 }
 
@@ -61,11 +60,35 @@ double roundStep(double span, int wanted) {
     return 10 * power;
 }
 
-ChartSnapshot ChartSnapshot::of(const ChartDocument& document, double lettering) {
-    ChartSnapshot chart{
-        .xTitle = document.xTitle, .yTitle = document.yTitle, .series = {}, .lettering = lettering};
+void ChartExtent::include(const Point& point) {
+    if (drawable(point)) {
+        least = {std::min(least.x, point.x), std::min(least.y, point.y)};
+        greatest = {std::max(greatest.x, point.x), std::max(greatest.y, point.y)};
+    }
+}
+
+void ChartExtent::include(const ChartSeries& series) {
+    for (const Point& point : series.Data.points()) {
+        include(point);
+    }
+}
+
+ChartSnapshot ChartSnapshot::of(const ChartView& view, double lettering) {
+    const ChartDocument& document = view.document();
+    ChartSnapshot chart{.xTitle = document.xTitle,
+                        .yTitle = document.yTitle,
+                        .series = {},
+                        .lettering = lettering,
+                        .emptyNote = view.emptyNote,
+                        .sheet = {}};
+    for (const ChartSeries* series : view.shown()) {
+        chart.series.push_back(*series);
+    }
     for (int i = 1; i <= document.seriesCount(); ++i) {
-        chart.series.push_back(document.Series(i));
+        chart.sheet.include(document.Series(i));
+    }
+    for (const Point& point : view.reserved()) {
+        chart.sheet.include(point);
     }
     return chart;
 }

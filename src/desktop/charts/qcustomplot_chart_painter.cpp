@@ -8,13 +8,12 @@
 
 namespace quendal {
 
-void QCustomPlotChartPainter::render(const ChartDocument& document, PictureBox& target,
-                                     double scale) {
+void QCustomPlotChartPainter::render(const ChartView& view, PictureBox& target, double scale) {
     auto* surface = dynamic_cast<PictureSurface*>(&target.surface());
     if (surface == nullptr) {
         return; // nobody will see this box
     }
-    surface->setBackdrop([chart = ChartSnapshot::of(document, scale)](
+    surface->setBackdrop([chart = ChartSnapshot::of(view, scale)](
                              QPainter& painter, const QRectF& box, double windowScale) {
         painter.drawPixmap(box.topLeft(), plotChart(chart, box.size().toSize(), windowScale));
     });

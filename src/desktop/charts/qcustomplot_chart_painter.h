@@ -7,7 +7,7 @@ namespace quendal {
 
 class QCustomPlotChartPainter final : public ChartPainter {
   public:
-    void render(const ChartDocument& document, PictureBox& target, double scale) override;
+    void render(const ChartView& view, PictureBox& target, double scale) override;
 };
 
 } // namespace quendal

@@ -17,7 +17,6 @@ namespace quendal::look {
 namespace {
 
 constexpr const char* kScaleProperty = "quendalScale";
-constexpr double kLeastContrast = 4.5;
 
 QPalette lightPalette() {
     QPalette palette;
@@ -99,12 +98,12 @@ QColor textOn(Color asked, const QColor& ground) {
     return asked == kBlack ? kInk : readable(toQColor(asked), ground);
 }
 
-QColor readable(const QColor& color, const QColor& ground) {
+QColor readable(const QColor& color, const QColor& ground, double leastContrast) {
     const bool darken = contrast(Qt::black, ground) > contrast(Qt::white, ground);
     const QColor limit = darken ? Qt::black : Qt::white;
     constexpr int kSteps = 20;
     QColor mixed = color;
-    for (int step = 1; step <= kSteps && contrast(mixed, ground) < kLeastContrast; ++step) {
+    for (int step = 1; step <= kSteps && contrast(mixed, ground) < leastContrast; ++step) {
         const double share = static_cast<double>(step) / kSteps;
         const auto mix = [share](float from, float to) {
             return static_cast<float>(from + (to - from) * share);

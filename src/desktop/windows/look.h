@@ -32,6 +32,8 @@ inline constexpr Color kButtonColor{240, 240, 240};
 
 inline constexpr double kCorner = 8; // radius of a panel's corners, design px
 inline constexpr double kButtonCorner = 6;
+inline constexpr double kTextContrast = 4.5; // to 1, the least of text on its ground
+inline constexpr double kShapeContrast = 3;  // the least of lines and signs
 inline constexpr double kTextSize = 13;
 inline constexpr double kHeadingSize = 16;
 inline constexpr double kFrameHead = 32;  // height of a frame's head with its title
@@ -56,7 +58,7 @@ QColor toQColor(Color color);
 // (4.5 to 1).
 // Black becomes the ink of the program.
 QColor textOn(Color asked, const QColor& ground);
-QColor readable(const QColor& color, const QColor& ground);
+QColor readable(const QColor& color, const QColor& ground, double leastContrast = kTextContrast);
 double contrast(const QColor& one, const QColor& other);
 
 // A rounded box with a border `width` wide that lies inside `box` whole.
