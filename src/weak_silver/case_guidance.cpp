@@ -35,7 +35,7 @@ CaseGuidance::CaseGuidance(Workbench& bench, const GuidanceTables& tables, const
                          .options = 4,
                          .calcButtons = {2, 8, 9, 10, 11, 12},
                          .optionHints = 4,
-                         .store = Control::kNoIndex}),
+                         .store = {Control::kNoIndex}}),
       panel_(panel) {
     design();
 }

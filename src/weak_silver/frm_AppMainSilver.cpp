@@ -9,6 +9,7 @@
 #include "weak_silver/silver_potential.h"
 #include "workbench/balance_lines.h"
 #include "workbench/liquid_color.h"
+#include "workbench/task_texts.h"
 
 namespace quendal {
 
@@ -27,24 +28,17 @@ const WorkbenchVariant& silverVariant() {
         .readingDigits = {.direct = std::nullopt, .guided = 2},
         .calculationTitle = "Potential ausrechnen",
         .answerName = "E / V =",
-        .wrongDirect = "Das von Dir errechnete Potential ist leider falsch! Soll ich Dir beim "
-                       "Errechnen Schritt für Schritt helfen?",
-        .compareTitle = "Vergleich: Deine Potential-Rechnungen und der richtige Verlauf",
+        .wrongDirect = kWrongPotential,
+        .compareTitle = kComparePotential,
         .volumeNames = {"VµV(Cl-)   = ", "VµZ(Ag+) =", "cµV(Cl-) =", "cµZ(Ag+) = 1 mol/L"},
         .task = {.sampleBefore =
                      "Klicke auf die            Pipette, um 10 mL Natriumchlorid-Lösung  (c = ",
                  .sampleAfter = " mol/L) in das Becherglas fließen zu lassen",
-                 .reagent = "Klick auf                               , um mit jedem Klick         "
-                            "       einen  mL Silbernitrat-Lösung ( c= 1 mol/L) zutropfen zu "
-                            "lassen.",
+                 .reagent = kSilverNitrateLine,
                  .finished = "Du hast die gesamte Silbernitrat-Lösung zugegeben und dabei nach und "
                              "nach das Potential verändert. Sieh Dir Dein Ergebnis an, indem Du "
                              "unten auf \"pH-Kurve anzeigen\" klickst."},
-        .species =
-            {{.kind = kSilver, .legend = -kSilver, .term = "Ag+", .spoken = "Silber-Ionen"},
-             kSodiumLine,
-             kChlorideLine,
-             {.kind = kNitrate, .legend = -kNitrate, .term = "NO3-", .spoken = "Nitrat-Ionen"}},
+        .species = {kSilverLine, kSodiumLine, kChlorideLine, kNitrateLine},
         .pipette = {kChloride, kSodium},
         .burette = {kNitrate, kSilver},
         .countingKinds = {kChloride, kSilver},

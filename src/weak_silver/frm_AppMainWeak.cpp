@@ -34,12 +34,7 @@ const WorkbenchVariant& weakVariant() {
                  .sampleAfter = " mol/L) in das Becherglas fließen zu lassen",
                  .reagent = kBaseLine,
                  .finished = kAllBaseGiven},
-        .species =
-            {kHydroniumLine,
-             kSodiumLine,
-             {.kind = kAceticAcid, .legend = kAceticAcid, .term = "HAc", .spoken = "Essigsäure"},
-             {.kind = kAcetate, .legend = -kAcetate, .term = "Ac-", .spoken = "Acetat-Ionen"},
-             kHydroxideLine},
+        .species = {kHydroniumLine, kSodiumLine, kAceticAcidLine, kAcetateLine, kHydroxideLine},
         .pipette = {kAceticAcid},
         .burette = {kSodium, kHydroxide},
         .countingKinds = {kAceticAcid, kHydroxide},

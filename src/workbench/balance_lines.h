@@ -20,5 +20,13 @@ inline constexpr BalanceLine kSodiumLine{
     .kind = kSodium, .legend = -kSodium, .term = "Na+", .spoken = "Natrium-Ionen"};
 inline constexpr BalanceLine kChlorideLine{
     .kind = kChloride, .legend = -kChloride, .term = "Cl-", .spoken = "Chlorid-Ionen"};
+inline constexpr BalanceLine kAceticAcidLine{
+    .kind = kAceticAcid, .legend = kAceticAcid, .term = "HAc", .spoken = "Essigsäure"};
+inline constexpr BalanceLine kAcetateLine{
+    .kind = kAcetate, .legend = -kAcetate, .term = "Ac-", .spoken = "Acetat-Ionen"};
+inline constexpr BalanceLine kSilverLine{
+    .kind = kSilver, .legend = -kSilver, .term = "Ag+", .spoken = "Silber-Ionen"};
+inline constexpr BalanceLine kNitrateLine{
+    .kind = kNitrate, .legend = -kNitrate, .term = "NO3-", .spoken = "Nitrat-Ionen"};
 
 } // namespace quendal

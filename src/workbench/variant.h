@@ -50,6 +50,12 @@ struct ReadingDigits {
     int guided = 2;            // at the end of a guided calculation
 };
 
+// The scale at the beaker: 35 ticks, each fifth with its number.
+struct BeakerScale {
+    int mlPerTick = 1;
+    int waterMl = 0; // mL that are in the beaker from the start; they count in no other volume
+};
+
 struct TaskTexts {
     std::string_view sampleBefore; // pipette line, up to the concentration
     std::string_view sampleAfter;  // and behind it
@@ -65,18 +71,24 @@ struct TaskTexts {
 struct WorkbenchVariant {
     std::string_view formName;
     std::string_view caption;
-    std::string_view curveStem; // "phstark": the concentration and ".crv" follow
+    std::string_view curveStem; // "phstark": the concentration, where it counts, and ".crv" follow
+    bool curveByConcentration = true;
     std::string_view seriesName;
     std::string_view helpFile;
     std::string_view readingName; // term
     std::string_view readingUnit; // behind the reading, with its blank
     ReadingDigits readingDigits;
-    std::string_view calculationTitle;           // of both calculation frames
-    std::string_view answerName;                 // beside the direct input, term
-    std::string_view wrongDirect;                // question after a wrong direct answer
-    std::string_view compareTitle;               // of the comparison; empty: as the dialog has it
+    std::string_view calculationTitle; // of both calculation frames
+    std::string_view answerName;       // beside the direct input, term
+    std::string_view wrongDirect;      // question after a wrong direct answer
+    bool directHidesControls = false;  // while the direct input is open
+    bool countsDirectHelp = false;     // taking that help raises vHelpUsed
+    std::string_view compareTitle;     // of the comparison; empty: as the dialog has it
+    std::string_view compareButton = "pH-Kurve anzeigen";
     std::array<std::string_view, 4> volumeNames; // sample, reagent, c of the sample, of the reagent
+    bool totalVolumeShown = false; // the third value is the volume in the beaker, water included
     TaskTexts task;
+    std::string_view balanceTitle = "Aktuelle Stoffmengenbilanz";
     std::vector<BalanceLine> species;
     std::vector<int> pipette; // kinds that fall for one mmol, in this order
     DropPair burette;         // first at x - 2, second at x + 2
@@ -87,6 +99,7 @@ struct WorkbenchVariant {
     ChlorideSign chloride = ChlorideSign::AsItStands;
     FirstPoint firstPoint = FirstPoint::SampleAlone;
     bool countsParticles = false; // the model reads the particles, so reactions must have ended
+    BeakerScale scale = {};
 };
 
 } // namespace quendal

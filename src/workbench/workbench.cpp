@@ -53,15 +53,7 @@ void Workbench::hookEvents() {
     but_phCompare.onClick = [this] { but_phCompare_Click(); };
     but_Calc.onClick = [this] { but_Calc_Click(); };
     ctl_Button2.onClick = [this] { but_Calc_Click(); };
-    const auto glassClicked = [this] {
-        if (vPipShown) {
-            if (vPipReady) {
-                but_Add_Click(0);
-            }
-        } else if (vBurShown && vBurReady) {
-            but_Add_Click(1);
-        }
-    };
+    const auto glassClicked = [this] { clickGlass(); };
     pic_Above.onClick = glassClicked;
     ctl_Button1.onClick = glassClicked;
     ctl_Button3.onClick = glassClicked;
@@ -85,6 +77,16 @@ void Workbench::hookEvents() {
         tmr_Unload.setEnabled(false);
         CoreLib().Windows.Unload(*this);
     };
+}
+
+void Workbench::clickGlass() {
+    if (vPipShown) {
+        if (vPipReady) {
+            but_Add_Click(0);
+        }
+    } else if (vBurShown && vBurReady) {
+        but_Add_Click(1);
+    }
 }
 
 void Workbench::showHelp() {

@@ -19,6 +19,8 @@
 
 namespace quendal {
 
+class ChartDocument;
+
 class Workbench : public Form, public WorkbenchTask, public ParticleScene, public LiquidOwner {
   public:
     explicit Workbench(const WorkbenchVariant& variant);
@@ -33,7 +35,9 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     // is a fault of the program and throws std::out_of_range.
     double hGetVol(int source) const;
     // mL from the burette, computed as the points of the curve carry them.
-    double titrantMl() const { return hGetVol(1) * 1000; }
+    double titrantMl() const { return titrantVolume() * 1000; }
+    // L of reagent that a calculation is about.
+    virtual double titrantVolume() const { return hGetVol(1); }
 
     // c, V and n of sample and reagent into the fields.
     void readAmounts();
@@ -56,7 +60,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void but_Add_Click(int index);
     void but_Calc_Click();
     void but_CalcDone_Click();
-    void but_phCompare_Click();
+    virtual void but_phCompare_Click();
 
     // True when the answer counts as wrong: see answer.h. Tells the learner of bad characters.
     bool hUnequal(const std::string& value, double target, int digits);
@@ -163,9 +167,23 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     virtual void reagentComing() {}
     // False: no direct answer is right at this point.
     virtual bool answerable() const { return true; }
+    // What a direct answer is compared with, and what follows a right one.
+    virtual double directTarget() { return vPhNow; }
+    virtual void directPassed(double value) { hPointDone(value); }
+    // The learner's series on a curve that has just been opened; gives the one that counts points.
+    virtual ChartSeries& addLearnersSeries(ChartDocument& curve);
+    // A finished point into the learner's series.
+    virtual void recordPoint(double reading);
+    // A calculation, dosing or another click that takes its time is under way.
+    bool busy() const;
 
     // One paced turn: events, a frame, events, sleep to 20 ms.
     void turn();
+    // Lets frames run until what falls has landed and what reacts has reacted, at most 10 s. False:
+    // a dosing or another click is under way, or the form is about to go.
+    bool settleBeaker();
+    // As a click on the glass that stands over the beaker.
+    void clickGlass();
     // The form is about to go, so loops end.
     bool leaving() const;
     // Keeps other clicks from dosing or calculating while one is at work. Not taken when another
@@ -201,6 +219,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void designDirectInput();
 
   private:
+    static constexpr int kScaleTicks = 35; // of the beaker
     // A glass at this height is out of the window.
     static constexpr int kOutOfWindow = -1000;
 
@@ -215,8 +234,6 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void showScoreOfErrors();
     void showResult();
     void mainLoop();
-    // Lets frames run until what falls has landed and what reacts has reacted, at most 10 s.
-    bool settleBeaker();
 
     void hDropsStep();
     void moveDrops();
@@ -232,6 +249,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void showBalance();
     int balanceOf(const BalanceLine& species) const;
     void showVolumes();
+    void showTotalVolume();
 
     bool markNextPoint(int index);
     bool dosingRefused();
@@ -268,7 +286,8 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
         std::array<bool, 5> trace{};
         std::array<int, 2> volume{-1, -1};
         double concentration = -1;
-        bool stillScene = false; // nothing falls and the glasses stand as drawn
+        std::optional<int> total; // mL
+        bool stillScene = false;  // nothing falls and the glasses stand as drawn
     };
     Shown shown_;
 };

@@ -18,11 +18,15 @@ namespace {
 constexpr const char* kFallbackCurve = "ph.crv";
 
 // "phstark" and 0.8 give "phstark08.crv", whatever the locale's decimal sign.
-std::string curveName(std::string_view stem) {
+std::string curveName(const WorkbenchVariant& variant) {
+    const std::string stem(variant.curveStem);
+    if (!variant.curveByConcentration) {
+        return stem + ".crv";
+    }
     std::string digits = CoreLib().NumberService.picture(session().SessionConcentration, "0.0");
     std::erase(digits, ',');
     std::erase(digits, '.');
-    return std::string(stem) + digits + ".crv";
+    return stem + digits + ".crv";
 }
 
 } // namespace
@@ -33,7 +37,7 @@ void Workbench::openCurve() {
         documents.Close(1, -1, 0, 0);
     }
     const std::string folder = HostApp().PathService.DataPath();
-    const std::string name = curveName(variant_.curveStem);
+    const std::string name = curveName(variant_);
     const bool found = CoreLib().FileService.FileExists(folder + name);
     ChartDocument& curve = documents.Open(folder + (found ? name : kFallbackCurve), 0, 0, 0);
     if (!found) {
@@ -43,20 +47,24 @@ void Workbench::openCurve() {
                 "Standard-pH-Kurver zu Rate ziehen!",
             "");
     }
-    ChartSeries& reference = curve.Series(1);
+    session().SessionCurve = &curve;
+    session().SessionCurveSeries = &curve.Series(1);
+    session().SessionChartView = &curve.Axes(1);
+    ChartSeries& mine = addLearnersSeries(curve);
+    session().SessionMySeries = &mine;
+    session().SessionChartView->SetActiveSeries(curve.indexOf(mine), -1);
+}
+
+ChartSeries& Workbench::addLearnersSeries(ChartDocument& curve) {
     ChartSeries& mine = curve.AddSeries(1, std::string(variant_.seriesName));
-    mine.Axes = reference.Axes;
+    mine.Axes = curve.Series(1).Axes;
     mine.Style = {.LineVisible = false,
                   .MarkerVisible = true,
                   .MarkerStyle = Marker::FilledCircle,
                   .MarkerSize = 6,
                   .MarkerSetting = 8,
                   .Colour = palette(12)};
-    session().SessionCurve = &curve;
-    session().SessionCurveSeries = &reference;
-    session().SessionChartView = &curve.Axes(1);
-    session().SessionMySeries = &mine;
-    session().SessionChartView->SetActiveSeries(curve.indexOf(mine), -1);
+    return mine;
 }
 
 } // namespace quendal

@@ -30,10 +30,10 @@ void term(ctl_TermLabel& control, Control& container, Rect place, const std::str
     control.setTerm(text);
 }
 
-void button(ctl_Button& control, Control& container, Rect place, const char* text,
+void button(ctl_Button& control, Control& container, Rect place, std::string text,
             const char* icon = "") {
     arrange(control, container, place);
-    control.setText(text);
+    control.setText(std::move(text));
     control.setPictureIcon(icon);
 }
 
@@ -120,7 +120,8 @@ void Workbench::designTaskSheet() {
     but_Calc.setVisible(false);
     button(but_Help, frm_Holder, {kMiddle + 130, 640, 158, 42}, "Ausführliche Hilfe",
            "Ico\\16\\Computer\\Signs\\Help.ico");
-    button(but_phCompare, frm_Holder, {kMiddle + 296, 640, 148, 42}, "pH-Kurve anzeigen");
+    button(but_phCompare, frm_Holder, {kMiddle + 296, 640, 148, 42},
+           std::string(variant().compareButton));
 }
 
 void Workbench::mark(ctl_Image& image, const Rect& place, const char* icon) {
@@ -140,8 +141,8 @@ void Workbench::designReadings() {
              {.size = 15, .bold = true});
     });
 
-    frame(frm_Bilanz, frm_Holder, {kRight, 182, kRightWidth, 262}, "Aktuelle Stoffmengenbilanz",
-          "Ico\\20\\Science\\Math\\Generic.ico");
+    frame(frm_Bilanz, frm_Holder, {kRight, 182, kRightWidth, 262},
+          std::string(variant().balanceTitle), "Ico\\20\\Science\\Math\\Generic.ico");
     pic_Bilanz.each([&](int index, PictureBox& picture) {
         const double top = 44.0 + 42 * index;
         picture.setContainer(frm_Bilanz);

@@ -28,9 +28,13 @@ constexpr Color kNowDark{0, 128, 0};
 
 } // namespace
 
+bool Workbench::busy() const {
+    return guidance().frm_Calc.visible() || frm_CalcDirect.visible() || session().SessionBusy ||
+           vUnload || occupied_;
+}
+
 void Workbench::but_Add_Click(int index) {
-    if (guidance().frm_Calc.visible() || frm_CalcDirect.visible() || session().SessionBusy ||
-        vUnload || occupied_) {
+    if (busy()) {
         return;
     }
     if (!markNextPoint(index)) {

@@ -16,11 +16,10 @@ namespace quendal {
 
 namespace {
 
-constexpr double kTurn = 0.02;      // s, the pace of a turn
-constexpr double kFallTime = 1.0;   // s from the glass to the surface
-constexpr double kScaleEnd = 0.035; // L at the upper end of the beaker's scale
-constexpr double kPatience = 10.0;  // s that a click waits for the beaker
-constexpr double kWaterGone = 100;  // Fade at which a helper water molecule disappears
+constexpr double kTurn = 0.02;     // s, the pace of a turn
+constexpr double kFallTime = 1.0;  // s from the glass to the surface
+constexpr double kPatience = 10.0; // s that a click waits for the beaker
+constexpr double kWaterGone = 100; // Fade at which a helper water molecule disappears
 
 // Water that helps no reaction fades out, everything else in. True when it is out.
 bool fadedAway(cls_Molecule& particle) {
@@ -179,7 +178,9 @@ void Workbench::hBeakerStep(bool calm) {
 }
 
 double Workbench::waterHeight() const {
-    return std::max(0.0, pic_Bowl.place().height * hGetVol(-1) / kScaleEnd);
+    const double millilitres = hGetVol(-1) * 1000 + variant_.scale.waterMl;
+    const double scaleEnd = kScaleTicks * variant_.scale.mlPerTick;
+    return std::max(0.0, pic_Bowl.place().height * millilitres / scaleEnd);
 }
 
 void Workbench::placeWater() {
@@ -287,9 +288,19 @@ void Workbench::showVolumes() {
             lab_Vol(source).setTerm(CoreLib().NumberService.Format(hGetVol(source), 3) + " L");
         }
     }
-    if (shown_.concentration != session().SessionConcentration) {
+    if (variant_.totalVolumeShown) {
+        showTotalVolume();
+    } else if (shown_.concentration != session().SessionConcentration) {
         shown_.concentration = session().SessionConcentration;
         lab_Vol(2).setTerm(NumberService::pointText(shown_.concentration) + " mol/L");
+    }
+}
+
+void Workbench::showTotalVolume() {
+    if (vVol != shown_.total) {
+        shown_.total = vVol;
+        const double litres = (vVol + variant_.scale.waterMl) / 1000.0;
+        lab_Vol(2).setTerm(CoreLib().NumberService.Format(litres, 3) + " L");
     }
 }
 

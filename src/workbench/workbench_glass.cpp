@@ -141,7 +141,6 @@ void Workbench::Form_Resize() {
 void Workbench::drawScale() {
     constexpr double kInset = 20;    // px from the edge of the picture to the glass
     constexpr double kGlassTop = 60; // px to the upper end of the scale
-    constexpr int kTicks = 35;       // one for each mL
     constexpr double kTick = 20;     // px
     constexpr double kTextGap = 2;   // px
     const Rect& outer = pic_BowlOuter.place();
@@ -152,14 +151,15 @@ void Workbench::drawScale() {
     const Rect& bowl = pic_Bowl.place();
     Surface& glass = pic_Glass.surface();
     glass.Clear();
-    for (int i = 0; i <= kTicks; ++i) {
-        const double y = bowl.bottom() - bowl.height * i / kTicks;
+    for (int i = 0; i <= kScaleTicks; ++i) {
+        const double y = bowl.bottom() - bowl.height * i / kScaleTicks;
         const bool lettered = i % 5 == 0;
         glass.Line({bowl.left, y}, {bowl.left + kTick, y}, kBlack, lettered ? 2 : 1);
         if (lettered) {
             // The lowest number stands on the foot of the glass, the others beside their tick.
             const double rise = points(10) * (i == 0 ? 1.2 : 0.62);
-            letterScale(glass, {bowl.left + kTick + kTextGap, y - rise}, i);
+            letterScale(glass, {bowl.left + kTick + kTextGap, y - rise},
+                        i * variant_.scale.mlPerTick);
         }
     }
     drawGlassOutline(glass);

@@ -55,6 +55,9 @@ void Workbench::but_Calc_Click() {
         guidance().but_HelpCalc_Click();
     } else if (!guidance().frm_Calc.visible() && !frm_CalcDirect.visible()) {
         guidance().hideHints();
+        if (variant_.directHidesControls) {
+            hHideMainControls();
+        }
         frm_CalcDirect.setVisible(true);
         frm_CalcDirect.bringToFront();
         txt_Ph.setFocus();
@@ -65,11 +68,13 @@ void Workbench::but_CalcDone_Click() {
     if (occupied_) {
         return; // a wrong answer would start the tutor in the middle of it
     }
-    if (hUnequal(txt_Ph.text(), vPhNow, variant_.directDigits) || !answerable()) {
+    const double target = directTarget();
+    if (hUnequal(txt_Ph.text(), target, variant_.directDigits) || !answerable()) {
         HostApp().SoundBank.Signal(1);
         ++vWrong;
         showScoreOfErrors();
         if (CoreLib().MessageBox.YesNo(std::string(variant_.wrongDirect), "") == BoxAnswer::Yes) {
+            vHelpUsed += variant_.countsDirectHelp ? 1 : 0;
             guidance().but_HelpCalc_Click();
         } else {
             txt_Ph.setFocus();
@@ -81,7 +86,7 @@ void Workbench::but_CalcDone_Click() {
     if (const auto digits = variant_.readingDigits.direct) {
         showFinished(vPhNow, *digits);
     }
-    hPointDone(vPhNow);
+    directPassed(target);
 }
 
 void Workbench::showGuidedReading(double reading) {
@@ -126,9 +131,12 @@ void Workbench::reportProgress() const {
     HostApp().HostControl.ReportProgress(vPoints, vWrong, 0, 0, "", "", "STATUS", 0, 10, 1);
 }
 
+void Workbench::recordPoint(double reading) {
+    session().SessionMySeries->Data.Add(titrantMl(), reading);
+}
+
 void Workbench::hPointDone(double reading) {
-    ChartSeries& series = *session().SessionMySeries;
-    series.Data.Add(titrantMl(), reading);
+    recordPoint(reading);
     session().SessionChartView->Redraw(0);
     if (vDemo) {
         return;
@@ -141,7 +149,7 @@ void Workbench::hPointDone(double reading) {
     lab_solveuse.setText(std::to_string(vSolveUsed));
     lab_helpused.setText(std::to_string(vHelpUsed));
     reportProgress();
-    if (series.Data.LastX() == kLastPoint) {
+    if (session().SessionMySeries->Data.LastX() == kLastPoint) {
         showResult();
     }
 }

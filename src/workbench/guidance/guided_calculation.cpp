@@ -15,13 +15,13 @@ namespace quendal {
 GuidedCalculation::GuidedCalculation(Workbench& bench, const GuidanceTables& tables,
                                      const PanelSize& size)
     : frm_Calc(bench, "frm_Calc"), lab_CalcStep(bench, "lab_CalcStep", 0, size.headings - 1),
-      lin_Calc(bench, "lin_Calc", 1, 4), lab_Calc(bench, "lab_Calc", 0, size.labels - 1),
+      lin_Calc(bench, "lin_Calc", 1, size.lines), lab_Calc(bench, "lab_Calc", 0, size.labels - 1),
       txt_Calc(bench, "txt_Calc", size.inputs), opt_Calc(bench, "opt_Calc", 0, size.options - 1),
       lab_optCalc(bench, "lab_optCalc", 0, size.optionHints - 1),
-      opt_CalcStore(bench, "opt_CalcStore", {size.store}),
+      opt_CalcStore(bench, "opt_CalcStore", size.store),
       but_CalcPH(bench, "but_CalcPH", size.calcButtons),
-      but_CalcStep(bench, "but_CalcStep", 1, kOneClick), but_AchtungRW(bench, "but_AchtungRW"),
-      bench_(bench), tables_(tables), storeIndex_(size.store) {
+      but_CalcStep(bench, "but_CalcStep", 1, tables.lastStep + 1),
+      but_AchtungRW(bench, "but_AchtungRW"), bench_(bench), tables_(tables) {
     hookEvents();
 }
 
@@ -55,11 +55,12 @@ void GuidedCalculation::but_HelpCalc_Click() {
         opt_Calc.each([](int, OptionButton& option) { option.setChecked(false); });
     }
     vAutoRun_ = false;
-    for (int step = 1; step <= kSteps; ++step) {
+    for (int step = 1; step <= tables_.lastStep - (tables_.lastKeepsCaption ? 1 : 0); ++step) {
         but_CalcStep(step).setText(demo ? "D-Klick!" : "Weiter!");
     }
+    startAnew();
     hCalcStepShow(1);
-    if (store().checked()) {
+    if (amountKept()) {
         clearInputs(4);
         hCalcStepShow(6);
         txt_Calc(6).setFocus();
@@ -67,6 +68,12 @@ void GuidedCalculation::but_HelpCalc_Click() {
         clearInputs(1);
         hCalcStepShow(1);
     }
+}
+
+bool GuidedCalculation::amountKept() {
+    bool kept = false;
+    opt_CalcStore.each([&kept](int, CheckBox& store) { kept = kept || store.checked(); });
+    return kept;
 }
 
 void GuidedCalculation::clearInputs(int from) {
@@ -78,13 +85,12 @@ void GuidedCalculation::clearInputs(int from) {
 }
 
 void GuidedCalculation::hCalcStepShow(int step) {
-    if (bench_.vDemo && bench_.titrantMl() == bench_.vLastVol) {
-        return; // this point has been shown
+    if (bench_.vDemo && shownBefore()) {
+        return;
     }
-    sStep_ = std::clamp(step == -1 ? sStep_ + 1 : step, 1, kSteps);
+    sStep_ = std::clamp(step == -1 ? sStep_ + 1 : step, 1, tables_.lastStep);
     if (bench_.vDemo) {
-        but_CalcStep(kOneClick).setVisible(!waysChangeHere());
-        but_AchtungRW.setVisible(waysChangeHere());
+        showDemoAids();
     }
     sStep_ = route(sStep_);
     vStepReached_[static_cast<std::size_t>(sStep_)] = true;
@@ -95,11 +101,20 @@ void GuidedCalculation::hCalcStepShow(int step) {
     }
 }
 
+bool GuidedCalculation::shownBefore() const {
+    return bench_.titrantMl() == bench_.vLastVol;
+}
+
+void GuidedCalculation::showDemoAids() {
+    but_CalcStep(oneClick()).setVisible(!waysChangeHere());
+    but_AchtungRW.setVisible(waysChangeHere());
+}
+
 void GuidedCalculation::focusStep() {
-    if (sStep_ == tables_.choiceStep) {
-        but_CalcStep(sStep_).setFocus();
-    } else if (txt_Calc.has(sStep_)) {
+    if (sStep_ != tables_.choiceStep && txt_Calc.has(sStep_)) {
         txt_Calc(sStep_).setFocus();
+    } else {
+        but_CalcStep(sStep_).setFocus();
     }
 }
 
@@ -116,17 +131,13 @@ void GuidedCalculation::but_CalcStep_Click(int index) {
     if (bench_.vVol == 0) {
         return;
     }
-    if (index == kOneClick) {
-        but_CalcStep(kOneClick).setVisible(false);
+    if (index == oneClick()) {
+        but_CalcStep(index).setVisible(false);
         vAutoRun_ = true;
         index = 1;
     }
     if (bench_.vDemo) {
-        for (int step = 1; step <= kSteps; ++step) {
-            if (const StepRow* row = rowOf(step, point_.caseNumber())) {
-                fillIn(*row);
-            }
-        }
+        fillDemo(index);
     }
     const StepRow* row = rowOf(index, point_.caseNumber());
     if (row != nullptr && !passes(*row)) {
@@ -142,6 +153,15 @@ void GuidedCalculation::but_CalcStep_Click(int index) {
     }
     hCalcStepShow(-1);
     vTries_ = 0;
+}
+
+void GuidedCalculation::fillDemo(int step) {
+    const bool one = tables_.demoFills == DemoFills::OneStep;
+    for (int i = one ? step : 1; i <= (one ? step : tables_.lastStep); ++i) {
+        if (const StepRow* row = rowOf(i, point_.caseNumber())) {
+            fillIn(*row);
+        }
+    }
 }
 
 void GuidedCalculation::pointPassed() {
@@ -162,6 +182,9 @@ bool GuidedCalculation::passes(const StepRow& row) {
     }
     if (row.check == Check::Choice) {
         return opt_Calc.has(point_.choice) && opt_Calc(point_.choice).checked();
+    }
+    if (row.result != nullptr) {
+        return !bench_.hUnequal(resultLabel(row.step)->text(), row.result(point_), row.digits);
     }
     const std::string answer = txt_Calc(row.step).text();
     if (equalsFill(row, answer)) {
@@ -202,13 +225,26 @@ void GuidedCalculation::fillIn(const StepRow& row) {
         if (opt_Calc.has(point_.choice)) {
             opt_Calc(point_.choice).setChecked(true);
         }
-    } else {
+        return;
+    }
+    if (txt_Calc.has(row.step)) {
         txt_Calc(row.step).setText(fillText(row));
+    }
+    if (ctl_Label* label = resultLabel(row.step)) {
+        label->setText(filledResult(row));
+    }
+    if (row.alsoFills != 0) {
+        fillIn(*rowOf(row.alsoFills, point_.caseNumber()));
     }
 }
 
+std::string GuidedCalculation::filledResult(const StepRow& row) const {
+    return row.result == nullptr ? std::string(row.resultLiteral)
+                                 : CoreLib().NumberService.Format(row.result(point_), 2);
+}
+
 bool GuidedCalculation::clickDueStep() {
-    for (int step = 1; step <= kSteps; ++step) {
+    for (int step = 1; step <= tables_.lastStep; ++step) {
         // The choice keeps the key for its own button, which has the focus there.
         if (step != tables_.choiceStep && but_CalcStep(step).visible()) {
             // Not through the button, which would take the focus from the input.
@@ -235,7 +271,6 @@ std::string GuidedCalculation::resultText(int /*index*/, double value) const {
 }
 
 void GuidedCalculation::but_CalcPH_Click(int index) {
-    constexpr int kDirect = 2;
     constexpr double kLift = 50; // px that the popup stands above the balance
     const Rect& holder = bench_.frm_Holder.place();
     const Rect& balance = bench_.frm_Bilanz.place();
@@ -245,22 +280,35 @@ void GuidedCalculation::but_CalcPH_Click(int index) {
         presets.Add(" ", line);
     }
     presets.Finish();
-    const bool offered =
-        index == kDirect ? session().SessionCalcTermDirect : session().SessionCalcTerm;
-    if (!offered) {
+    if (!offersLines(index)) {
         presets.Clear();
     }
     const auto result =
         HostApp().Calculator.Show(0, 0, (holder.left + balance.left) * kTwipsPerUnit,
                                   (holder.top + balance.top - kLift) * kTwipsPerUnit, presets);
-    if (!result) {
-        return;
+    if (result) {
+        takeResult(index, *result);
     }
+}
+
+bool GuidedCalculation::offersLines(int index) const {
+    return index == tables_.directCalculator ? session().SessionCalcTermDirect
+                                             : session().SessionCalcTerm;
+}
+
+void GuidedCalculation::takeResult(int index, double value) {
+    const std::string text = resultText(index, value);
     const auto& own = tables_.calculatorSteps;
-    const bool inStep = std::find(own.begin(), own.end(), index) != own.end();
-    clt_TermInput& input = inStep ? txt_Calc(index) : bench_.txt_Ph;
-    input.setText(resultText(index, *result));
-    input.setFocus();
+    if (std::find(own.begin(), own.end(), index) == own.end()) {
+        bench_.txt_Ph.setText(text);
+        bench_.txt_Ph.setFocus();
+    } else if (ctl_Label* label = resultLabel(index)) {
+        label->setText(text);
+        but_CalcStep(index).setFocus();
+    } else {
+        txt_Calc(index).setText(text);
+        txt_Calc(index).setFocus();
+    }
 }
 
 void GuidedCalculation::describe(FieldTable& table) const {

@@ -1,5 +1,6 @@
 // What of frm_Calc is seen at a step.
 #include "workbench/guidance/guided_calculation.h"
+#include "workbench/workbench.h"
 
 #include <map>
 #include <utility>
@@ -49,12 +50,13 @@ void GuidedCalculation::writeTexts(const LayoutState& state) {
 }
 
 void GuidedCalculation::showButtons(const LayoutState& state) {
-    for (int step = 1; step <= kSteps; ++step) {
+    for (int step = 1; step <= tables_.lastStep; ++step) {
         const bool due = step == sStep_ && rowOf(step, state.caseNumber) != nullptr;
         but_CalcStep(step).setVisible(due);
     }
     for (const int step : tables_.calculatorSteps) {
-        but_CalcPH(step).setVisible(step == sStep_);
+        const bool offered = tables_.calculatorInDemo || !bench_.vDemo;
+        but_CalcPH(step).setVisible(offered && step == sStep_);
     }
 }
 
@@ -102,7 +104,7 @@ void GuidedCalculation::showPart(const ShownRow& row, bool visible) {
         lab_optCalc(row.index).setVisible(visible);
         break;
     case Part::StoreOption:
-        store().setVisible(visible);
+        opt_CalcStore(row.index).setVisible(visible);
         break;
     case Part::StepButton:
         but_CalcStep(row.index).setVisible(visible || but_CalcStep(row.index).visible());

@@ -21,7 +21,7 @@ void designFrame(GuidedCalculation& guidance, Control& holder, const char* title
     arrange(frame, holder, {322, 8, kWidth, kHeight}, kTitleFont);
     frame.setText(title);
     frame.setPictureIcon(kCalculatorIcon);
-    ctl_Button& oneClick = guidance.but_CalcStep(GuidedCalculation::kOneClick);
+    ctl_Button& oneClick = guidance.but_CalcStep(guidance.oneClick());
     arrange(oneClick, frame, {12, 642, 128, 28}, kTermFont);
     oneClick.setText("'one' - Klick");
     ctl_Pannel& warning = guidance.but_AchtungRW;

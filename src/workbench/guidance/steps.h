@@ -63,6 +63,11 @@ struct StepRow {
     Fill fill = Fill::DefaultText;
     std::string_view literal = {};
     Cases cases = kEveryCase;
+    // Where a step has a label for a result beside its input: the result, given to two decimals.
+    // With it the label is what is checked, and the input is only filled in.
+    double (*result)(const PointValues& point) = nullptr;
+    std::string_view resultLiteral = {}; // the label's text where there is no result
+    int alsoFills = 0;                   // another step that is filled in with this one; 0: none
 };
 
 // Kinds of controls on frm_Calc that are laid out by rows. A step's button is there at its own step
@@ -111,9 +116,12 @@ struct Counting {
     bool reported = true; // a wrong answer is reported at once
 };
 
+// What a demo fills in at a click.
+enum class DemoFills { EveryStep, OneStep };
+
 struct GuidanceTables {
     int lastStep;   // passing it ends the point
-    int choiceStep; // the one with options in place of an input
+    int choiceStep; // the one with options in place of an input; 0: none
     std::vector<StepRow> steps;
     std::vector<ShownRow> shown;
     std::span<const TextRow> texts = {};
@@ -125,6 +133,10 @@ struct GuidanceTables {
     bool clearsChoice = false; // a new calculation starts without a chosen option
     // Passing the last step leaves step and count of tries as they are.
     bool restsAtEnd = false;
+    bool lastKeepsCaption = false; // the last step's button isn't named anew at a start
+    DemoFills demoFills = DemoFills::EveryStep;
+    int directCalculator = 2; // Index of the calculator beside the direct input
+    bool calculatorInDemo = true;
 };
 
 } // namespace quendal
