@@ -10,14 +10,6 @@ namespace quendal::curves {
 
 namespace {
 
-std::string fixedText(double value, int decimals) {
-    std::array<char, 64> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::fixed, decimals)
-                         .ptr;
-    return {buffer.data(), end};
-}
-
 std::string rowText(const std::vector<CurveColumn>& columns, std::size_t row) {
     std::string text;
     for (const CurveColumn& column : columns) {
@@ -36,6 +28,14 @@ std::string namesText(const std::vector<CurveColumn>& columns) {
 }
 
 } // namespace
+
+std::string fixedText(double value, int decimals) {
+    std::array<char, 64> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::fixed, decimals)
+                         .ptr;
+    return {buffer.data(), end};
+}
 
 std::string curveText(const CurveFile& file) {
     std::string text;

@@ -20,6 +20,9 @@ struct CurveFile {
     std::vector<CurveColumn> columns;
 };
 
+// With so many decimals and a decimal point, whatever the locale.
+std::string fixedText(double value, int decimals);
+
 // UTF-8: notes and axis titles behind "# ", a line of column names, then one row a point, ";"
 // between columns, decimal point, "\n" at each line's end.
 std::string curveText(const CurveFile& file);

@@ -10,5 +10,9 @@ namespace quendal::curves {
 std::vector<std::string> strongAcidNotes(const std::string& concentration);
 std::vector<std::string> weakAcidNotes(const std::string& concentration);
 std::vector<std::string> silverNotes(const std::string& concentration);
+std::vector<std::string> strongConductivityNotes(const std::string& concentration);
+std::vector<std::string> weakConductivityNotes(const std::string& concentration);
+std::vector<std::string> silverConductivityNotes(const std::string& concentration);
+std::vector<std::string> exponentNotes(const std::string& concentration);
 
 } // namespace quendal::curves

@@ -1,11 +1,14 @@
 #include "curve_set.h"
 
+#include "conductometry.h"
 #include "curve_notes.h"
 #include "silver_chloride.h"
 #include "strong_acid.h"
 #include "weak_acid.h"
 
+#include <algorithm>
 #include <array>
+#include <functional>
 #include <string>
 
 namespace quendal::curves {
@@ -28,55 +31,129 @@ constexpr std::array kSamples{
 
 constexpr Sample kStandardSample{.digits = "10", .concentration = 1.0, .text = "1,0"};
 
+// The electrodes of a conductivity cell have to be covered.
+constexpr double kConductometryWater = 90.0; // mL
+
+// One value for each series.
+using Values = std::function<std::vector<double>(const Titration&, double addedMillilitres)>;
+
 // A titration that is tabled for every sample.
 struct Family {
     const char* stem;
     const char* reagent; // the x column
-    const char* series;
+    std::vector<std::string> series;
     const char* yTitle;
-    int decimals; // two neighbouring points differ in the last one
-    double (*value)(const Titration&, double addedMillilitres);
+    int decimals;             // of all series
+    double waterVolume = 0.0; // mL
+    Values values;
     std::vector<std::string> (*notes)(const std::string& concentration);
 };
 
-constexpr Family acid(const char* stem, decltype(Family::value) pH, decltype(Family::notes) notes) {
+Values single(double (*value)(const Titration&, double)) {
+    return [value](const Titration& titration, double addedMillilitres) {
+        return std::vector{value(titration, addedMillilitres)};
+    };
+}
+
+Family acid(const char* stem, double (*pH)(const Titration&, double),
+            decltype(Family::notes) notes) {
     return {.stem = stem,
             .reagent = "V(NaOH)",
-            .series = "pH-Wert",
+            .series = {"pH-Wert"},
             .yTitle = "pH-Wert",
             .decimals = 4,
-            .value = pH,
+            .values = single(pH),
             .notes = notes};
 }
 
-constexpr Family kStrongAcid = acid("phstark", strongAcidPh, strongAcidNotes);
-constexpr Family kWeakAcid = acid("phschwach", weakAcidPh, weakAcidNotes);
+Family silverElectrode() {
+    return {.stem = "potsilber",
+            .reagent = "V(AgNO3)",
+            .series = {"Potential"},
+            .yTitle = "Potential E in V",
+            .decimals = 5,
+            .values = single(silverPotential),
+            .notes = silverNotes};
+}
 
-constexpr Family kSilver{.stem = "potsilber",
-                         .reagent = "V(AgNO3)",
-                         .series = "Potential",
-                         .yTitle = "Potential E in V",
-                         .decimals = 5,
-                         .value = silverPotential,
-                         .notes = silverNotes};
-
-CurveFile curveFile(const Family& family, const Sample& sample) {
-    const Titration titration{.sampleConcentration = sample.concentration};
-    CurveColumn volume{.name = family.reagent, .decimals = 1, .values = burettePoints()};
-    CurveColumn series{.name = family.series, .decimals = family.decimals, .values = {}};
-    for (const double added : volume.values) {
-        series.values.push_back(family.value(titration, added));
+// A learner's series is called "Meine" and the name in the file: these are plurals.
+std::vector<std::string> conductivitySeries(const Conductometry& conductometry) {
+    std::vector<std::string> names{"Leitwerte gesamt"};
+    for (const Carrier& carrier : conductometry.carriers) {
+        names.push_back(std::string("Leitwerte ") + carrier.ion.name);
     }
-    return {.name = std::string(family.stem) + sample.digits + ".crv",
+    return names;
+}
+
+Family conductivity(const char* stem, const char* reagent, const Conductometry& conductometry,
+                    decltype(Family::notes) notes) {
+    return {.stem = stem,
+            .reagent = reagent,
+            .series = conductivitySeries(conductometry),
+            .yTitle = "Leitwert G in mS/cm",
+            .decimals = 4,
+            .waterVolume = kConductometryWater,
+            .values =
+                [&conductometry](const Titration& titration, double addedMillilitres) {
+                    return totalAndShares(conductometry, titration, addedMillilitres);
+                },
+            .notes = notes};
+}
+
+std::vector<double> exponents(const Titration& titration, double addedMillilitres) {
+    const auto [pH, pOH, pCl, pNa] = strongAcidExponents(titration, addedMillilitres);
+    return {std::min(pH, pOH), pH, pCl, pNa, pOH};
+}
+
+Family exponentsOfStrongAcid() {
+    return {.stem = "lf-ph",
+            .reagent = "V(NaOH)",
+            .series = {"pH- bzw. pOH-Werte", "pH-Werte", "pCl-Werte", "pNa-Werte", "pOH-Werte"},
+            .yTitle = "pH bzw. pOH",
+            .decimals = 4,
+            .waterVolume = kConductometryWater,
+            .values = exponents,
+            .notes = exponentNotes};
+}
+
+std::vector<Family> familiesOfAllSamples() {
+    return {
+        acid("phstark", strongAcidPh, strongAcidNotes),
+        acid("phschwach", weakAcidPh, weakAcidNotes),
+        silverElectrode(),
+        conductivity("lf-strong-", "V(NaOH)", kStrongAcidConductometry, strongConductivityNotes),
+        conductivity("lf-weak-", "V(NaOH)", kWeakAcidConductometry, weakConductivityNotes),
+        conductivity("lf-silver-", "V(AgNO3)", kSilverConductometry, silverConductivityNotes)};
+}
+
+// The volumes and all series of a family.
+std::vector<CurveColumn> columns(const Family& family, const Sample& sample) {
+    std::vector<CurveColumn> all{
+        {.name = family.reagent, .decimals = 1, .values = burettePoints()}};
+    for (const std::string& name : family.series) {
+        all.push_back({.name = name, .decimals = family.decimals, .values = {}});
+    }
+    const Titration titration{.waterVolume = family.waterVolume,
+                              .sampleConcentration = sample.concentration};
+    for (const double added : burettePoints()) {
+        const std::vector<double> values = family.values(titration, added);
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            all[i + 1].values.push_back(values[i]);
+        }
+    }
+    return all;
+}
+
+CurveFile curveFile(const std::string& name, const Family& family, const Sample& sample) {
+    return {.name = name + ".crv",
             .notes = family.notes(sample.text),
             .xTitle = std::string(family.reagent) + " in mL",
             .yTitle = family.yTitle,
-            .columns = {std::move(volume), std::move(series)}};
+            .columns = columns(family, sample)};
 }
 
 CurveFile standardFile() {
-    CurveFile file = curveFile(kStrongAcid, kStandardSample);
-    file.name = "ph.crv";
+    CurveFile file = curveFile("ph", familiesOfAllSamples().front(), kStandardSample);
     file.notes.insert(file.notes.begin(),
                       "Standard-pH-Kurve: tritt ein, wenn zu einer Aufgabe die eigene Kurve fehlt."
                       " Sie gilt für 1,0 mol/L.");
@@ -87,12 +164,14 @@ CurveFile standardFile() {
 
 std::vector<CurveFile> allCurveFiles() {
     std::vector<CurveFile> files;
-    for (const Family& family : {kStrongAcid, kWeakAcid, kSilver}) {
+    for (const Family& family : familiesOfAllSamples()) {
         for (const Sample& sample : kSamples) {
-            files.push_back(curveFile(family, sample));
+            files.push_back(curveFile(std::string(family.stem) + sample.digits, family, sample));
         }
     }
     files.push_back(standardFile());
+    const Family single = exponentsOfStrongAcid();
+    files.push_back(curveFile(single.stem, single, kStandardSample));
     return files;
 }
 

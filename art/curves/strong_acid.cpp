@@ -1,6 +1,16 @@
 #include "strong_acid.h"
 
+#include "activity.h"
+
+#include <cmath>
+
 namespace quendal::curves {
+
+namespace {
+
+constexpr double kFirstSodiumMillilitres = 0.1;
+
+} // namespace
 
 Equilibrium strongAcidState(const Titration& titration, double addedMillilitres) {
     const Mixture mixture = mix(titration, addedMillilitres);
@@ -14,6 +24,18 @@ Equilibrium strongAcidState(const Titration& titration, double addedMillilitres)
 
 double strongAcidPh(const Titration& titration, double addedMillilitres) {
     return -strongAcidState(titration, addedMillilitres).lgActivity;
+}
+
+IonExponents strongAcidExponents(const Titration& titration, double addedMillilitres) {
+    const Equilibrium state = strongAcidState(titration, addedMillilitres);
+    const double coefficient = activityCoefficient(1, state.ionicStrength);
+    const Mixture mixture = mix(titration, addedMillilitres);
+    return {.pH = -state.lgActivity,
+            .pOH = kWaterPk + state.lgActivity,
+            .pCl = -std::log10(mixture.sample * coefficient),
+            .pNa = addedMillilitres < kFirstSodiumMillilitres
+                       ? strongAcidExponents(titration, kFirstSodiumMillilitres).pNa
+                       : -std::log10(mixture.reagent * coefficient)};
 }
 
 } // namespace quendal::curves

@@ -10,7 +10,7 @@ constexpr int kBuretteMillilitres = 20;
 } // namespace
 
 Mixture mix(const Titration& titration, double addedMillilitres) {
-    const double total = titration.sampleVolume + addedMillilitres;
+    const double total = titration.sampleVolume + titration.waterVolume + addedMillilitres;
     return {.sample = titration.sampleConcentration * titration.sampleVolume / total,
             .reagent = titration.reagentConcentration * addedMillilitres / total};
 }

@@ -7,6 +7,7 @@ namespace quendal::curves {
 
 struct Titration {
     double sampleVolume = 10.0;        // mL
+    double waterVolume = 0.0;          // mL, in the beaker from the start
     double sampleConcentration = 1.0;  // mol/L
     double reagentConcentration = 1.0; // mol/L
 };

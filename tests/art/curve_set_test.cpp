@@ -20,7 +20,7 @@ std::string fileText(const std::filesystem::path& path) {
 
 TEST(CurveSet, IsByteForByteWhatTheDataFolderHolds) {
     const auto files = allCurveFiles();
-    EXPECT_EQ(files.size(), 16U);
+    EXPECT_EQ(files.size(), 32U);
     for (const CurveFile& file : files) {
         EXPECT_EQ(fileText(kDataFolder / file.name), curveText(file)) << file.name;
     }
