@@ -5,21 +5,30 @@ In each formula line ("$ ...") all parts that are plain arithmetic have to agree
 "=", to the last place shown behind "≈", digit by digit before "…". Every other number with decimals
 has to stand in such a line too. Lines that aren't printed help with that:
 "//$ ..." is a formula for a number that is told without its calculation, "//= ..." lists numbers
-that nothing can be calculated for. Prints what is wrong; the exit code is 1 then.
+that nothing can be calculated for. In a formula "log" is decadic and "rund" rounds to two decimals
+as the program does. Prints what is wrong; the exit code is 1 then.
 """
 
 import math
 import re
 import sys
+from decimal import ROUND_HALF_EVEN, Decimal
 from pathlib import Path
 
-UNITS = re.compile(r"mol\^\{2\}/L\^\{2\}|mol/L|mmol|mol|mL|L|V|Punkte")
-PLAIN = re.compile(r"^(?:log10|\*\*|[-+*/().\d\s])+$")
+UNITS = re.compile(
+    r"mol\^\{2\}/L\^\{2\}|mol/L|mS·cm\^\{2\}/mmol|mS/cm|cm\^\{3\}|mmol/mL|mmol|mol|mL|L|V|Punkte"
+)
+PLAIN = re.compile(r"^(?=.*\d)(?:log10|rund|\*\*|[-+*/().\d\s])+$")
 FORMULA = re.compile(r"(?://)?\$ (.*)")
 GIVEN = "//= "
 DECIMAL = re.compile(r"(?<![\d.,])\d+[.,]\d+(?![\d]|[.,]\d)")
 THOUSANDS = re.compile(r"[1-9]\d{0,2}(?:\.\d{3})+")
 POWER_OF_TEN = re.compile(r"10\^\{(−?\d+)\}")
+
+
+def rounded(value):
+    """To two decimals, halves to the even neighbour, from the 15 digits that a double is good for."""
+    return float(Decimal("%.14e" % value).quantize(Decimal("0.01"), ROUND_HALF_EVEN))
 
 
 def arithmetic(part):
@@ -30,7 +39,8 @@ def arithmetic(part):
     text = text.replace(",", ".").replace("−", "-").replace("·", "*").replace("log", "log10")
     if not PLAIN.match(text.strip()):
         return None
-    return eval(text.strip(), {"__builtins__": {}}, {"log10": math.log10})
+    functions = {"log10": math.log10, "rund": rounded}
+    return eval(text.strip(), {"__builtins__": {}}, functions)
 
 
 def last_place(part):

@@ -32,7 +32,7 @@ CELL_LINE = r"\clbrdrb\brdrs\brdrw10"
 HEAD_GROUND = r"\clcbpat2"
 INLINE = re.compile(r"\\(.)|([*_])|([~^])\{([^}]*)\}|(.)", re.DOTALL)
 WIDE_GAP = re.compile(r" {2,}")
-UNIT = re.compile(r"(?<=\d) (?=(?:mL|L|V|mol|mol/L|Punkte|Minuten|°C)\b)")
+UNIT = re.compile(r"(?<=\d) (?=(?:mL|L|V|mol|mol/L|mmol|mS|cm|Punkte|Minuten|°C)\b)")
 
 
 def character(sign):
