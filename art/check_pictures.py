@@ -13,6 +13,8 @@ LENS_SIZE, SLIDE_SIZE = (592, 444), (556, 264)
 OPEN_PART = (142, 95, 423, 345)  # with a pixel to spare for rounding
 FRAME = (85, 20, 480, 420)
 HANDLE_FROM = (400, 320)  # right of and below it lies the handle
+START_SIZE = (720, 440)
+START_PICTURES = ("silver_start", "conducto_start", "conducto_weak_start", "conducto_silver_start")
 
 
 def size_of(data):
@@ -113,6 +115,17 @@ def check_slide(folder):
         assert clear[0] and clear[width - 1], f"{path}: its corners aren't clear"
 
 
+def check_starts(folder):
+    """Opaque, of the size of their forms, and each a picture of its own."""
+    seen = []
+    for name in START_PICTURES:
+        width, height, colours, clear = pixels(folder / f"{name}.gif")
+        assert (width, height) == START_SIZE, name
+        assert not any(clear), f"{name}: has holes"
+        assert colours not in seen, f"{name}: the same as another one"
+        seen.append(colours)
+
+
 def main(arguments):
     if len(arguments) != 2:
         print("usage: check_pictures.py DATA_FOLDER", file=sys.stderr)
@@ -123,6 +136,7 @@ def main(arguments):
         check_lens(folder, 1)
         check_lens(folder / "x3", 3)
         check_slide(folder)
+        check_starts(folder)
     except AssertionError as error:
         print(f"wrong: {error}", file=sys.stderr)
         return 1

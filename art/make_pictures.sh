@@ -85,6 +85,10 @@ echo "Silver titration"
 python3 "$art/silver_start.py" "$work"
 both_sizes "$work/silver_start.svg" "$ground"
 
+echo "Conductometric titrations"
+python3 "$art/conducto_start.py" "$work"
+for file in "$work"/conducto_*.svg; do both_sizes "$file" "$ground"; done
+
 echo "Result dialog"
 python3 "$art/results.py" "$work"
 for file in win win_small bad; do both_sizes "$work/$file.svg" white; done

@@ -130,6 +130,8 @@ PARTICLES = {
     "OH-": (WATER_BLUE, SODIUM_BLUE, "-", _SIDE),
     "Cl-": (CHLORIDE_GREEN, None, "-", []),
     "Na+": (SODIUM_BLUE, None, "+", []),
+    "HAc": (ACID_RED, None, "", _SIDE),
+    "Ac-": (ACID_RED, SODIUM_BLUE, "-", []),
 }
 
 

@@ -221,7 +221,8 @@ TEST_F(GraphicsTest, EveryIconOfTheProgramIsThere) {
           "Ico\\20\\Computer\\Signs\\Abort.ico", "Ico\\20\\Computer\\Signs\\Checked.ico",
           "Ico\\20\\Computer\\Signs\\Next.ico", "Ico\\20\\Computer\\Signs\\Quit.ico",
           "Ico\\20\\Computer\\Signs\\Search.ico", "Ico\\20\\Multimedia\\Video\\Camera.ico",
-          "Ico\\20\\Science\\Math\\Generic.ico", "Ico\\32\\Computer\\Signs\\Stop.ico"}) {
+          "Ico\\20\\Science\\Math\\Generic.ico", "Ico\\20\\Science\\Math\\Graph.ico",
+          "Ico\\20\\Science\\Math\\Point.ico", "Ico\\32\\Computer\\Signs\\Stop.ico"}) {
         EXPECT_FALSE(icons.pixmap(path, 1, 1).isNull()) << path;
     }
     EXPECT_TRUE(lines.empty());

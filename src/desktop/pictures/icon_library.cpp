@@ -24,6 +24,8 @@ constexpr std::array kIcons = {
     IconRow{"computer/signs/quit", "quit", "application-exit"},
     IconRow{"multimedia/video/camera", "camera", "camera-video"},
     IconRow{"science/math/generic", "math", "labplot-xy-equation-curve"},
+    IconRow{"science/math/graph", "graph", "labplot-xy-curve-segments"},
+    IconRow{"science/math/point", "add_point", "list-add"},
     IconRow{"science/chemistry/drop", "drop", "color-picker"},
     IconRow{"science/chemistry/pipette", "pipette", "color-picker"},
     IconRow{"computer/signs/help", "help", "help-contents"},
