@@ -1,4 +1,7 @@
 // What a frame of the workbench costs on the real windows, without a screen.
+#include "conducto/frm_AppMainConducto.h"
+#include "conducto/frm_AppMainConductoSilver.h"
+#include "conducto/frm_AppMainConductoWeak.h"
 #include "desktop/pictures/picture_surface.h"
 #include "desktop/windows/widget_peer.h"
 #include "desktop_bench.h"
@@ -29,6 +32,10 @@ template <>
 constexpr Kinds kKinds<frm_AppMainWeak>{kAcetate, kSodium};
 template <>
 constexpr Kinds kKinds<frm_AppMainSilver>{kSilverChloride, kNitrate};
+template <>
+constexpr Kinds kKinds<frm_AppMainConductoWeak>{kAcetate, kSodium};
+template <>
+constexpr Kinds kKinds<frm_AppMainConductoSilver>{kSilverChloride, kNitrate};
 
 // A form with a start form waits for it in its Load.
 void acceptStartForm(DesktopWindowSystem& windows) {
@@ -112,9 +119,15 @@ void screens(benchmark::internal::Benchmark* frames) {
 BENCHMARK(frameAtRest<frm_AppMainStrong>)->Apply(screens);
 BENCHMARK(frameAtRest<frm_AppMainWeak>)->Apply(screens);
 BENCHMARK(frameAtRest<frm_AppMainSilver>)->Apply(screens);
+BENCHMARK(frameAtRest<frm_AppMainConducto>)->Apply(screens);
+BENCHMARK(frameAtRest<frm_AppMainConductoWeak>)->Apply(screens);
+BENCHMARK(frameAtRest<frm_AppMainConductoSilver>)->Apply(screens);
 BENCHMARK(frameWithEverythingMoved<frm_AppMainStrong>)->Apply(screens);
 BENCHMARK(frameWithEverythingMoved<frm_AppMainWeak>)->Apply(screens);
 BENCHMARK(frameWithEverythingMoved<frm_AppMainSilver>)->Apply(screens);
+BENCHMARK(frameWithEverythingMoved<frm_AppMainConducto>)->Apply(screens);
+BENCHMARK(frameWithEverythingMoved<frm_AppMainConductoWeak>)->Apply(screens);
+BENCHMARK(frameWithEverythingMoved<frm_AppMainConductoSilver>)->Apply(screens);
 
 } // namespace
 

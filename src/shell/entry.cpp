@@ -1,5 +1,9 @@
 #include "shell/entry.h"
 
+#include "conducto/frm_AppMainConducto.h"
+#include "conducto/frm_AppMainConductoSilver.h"
+#include "conducto/frm_AppMainConductoWeak.h"
+#include "conducto/frm_AppMainConductolog.h"
 #include "host/calculator.h"
 #include "host/clock.h"
 #include "host/roots.h"
@@ -37,9 +41,10 @@ struct WorkbenchRow {
 };
 
 constexpr WorkbenchRow kWorkbenches[] = {
-    {1, make<frm_AppMainStrong>},
-    {2, make<frm_AppMainWeak>},
-    {4, make<frm_AppMainSilver>},
+    {1, make<frm_AppMainStrong>},         {2, make<frm_AppMainWeak>},
+    {4, make<frm_AppMainSilver>},         {5, make<frm_AppMainConducto>},
+    {6, make<frm_AppMainConductoSilver>}, {7, make<frm_AppMainConductoWeak>},
+    {8, make<frm_AppMainConductolog>},
 };
 
 void tellProduct() {
