@@ -80,21 +80,49 @@ Reading readSession(const IndexedName& field) {
     return readField(table, field);
 }
 
+Reading readPoint(const SeriesData& data, const Thing& thing) {
+    if (thing.number < 1 || thing.number > data.Count()) {
+        return FieldValue(); // no such point yet
+    }
+    return FieldValue(thing.kind == ThingKind::SeriesX ? data.X(thing.number)
+                                                       : data.Y(thing.number));
+}
+
+Reading readFittedLine(const std::vector<FittedLine>& lines, const Thing& thing) {
+    if (thing.number < 1 || thing.number > static_cast<int>(lines.size())) {
+        return FieldValue(); // no such line yet
+    }
+    const FittedLine& line = lines[static_cast<std::size_t>(thing.number - 1)];
+    return FieldValue(thing.kind == ThingKind::LineSlope ? line.slope : line.intercept);
+}
+
+Reading readSeries(const ChartSeries& series, const Thing& thing) {
+    switch (thing.kind) {
+    case ThingKind::SeriesCount:
+        return FieldValue(std::int64_t{series.Data.Count()});
+    case ThingKind::SeriesName:
+        return FieldValue(series.name);
+    case ThingKind::SeriesJoined:
+        return FieldValue(series.Style.LineVisible);
+    case ThingKind::SeriesLines:
+        return FieldValue(static_cast<std::int64_t>(series.fittedLines.size()));
+    case ThingKind::SeriesX:
+    case ThingKind::SeriesY:
+        return readPoint(series.Data, thing);
+    default:
+        return readFittedLine(series.fittedLines, thing);
+    }
+}
+
 Reading readSeries(const Thing& thing, const Stage& stage) {
     const ParticleScene* scene = stage.scene();
     if (scene == nullptr || thing.series < 1 || thing.series > scene->learnerSeriesCount()) {
         return std::nullopt;
     }
+    // None yet reads as one without points.
+    static const ChartSeries none{std::string()};
     const ChartSeries* series = scene->learnerSeries(thing.series);
-    const int count = series == nullptr ? 0 : series->Data.Count();
-    if (thing.kind == ThingKind::SeriesCount) {
-        return FieldValue(std::int64_t{count});
-    }
-    if (thing.number < 1 || thing.number > count) {
-        return FieldValue(); // no such point yet
-    }
-    return FieldValue(thing.kind == ThingKind::SeriesX ? series->Data.X(thing.number)
-                                                       : series->Data.Y(thing.number));
+    return readSeries(series == nullptr ? none : *series, thing);
 }
 
 Reading readParticles(const Thing& thing, const Stage& stage) {
@@ -120,8 +148,13 @@ Reading readThing(const Thing& thing, const Stage& stage, const Witness& witness
     case ThingKind::SessionField:
         return readSession(thing.field);
     case ThingKind::SeriesCount:
+    case ThingKind::SeriesName:
+    case ThingKind::SeriesJoined:
+    case ThingKind::SeriesLines:
     case ThingKind::SeriesX:
     case ThingKind::SeriesY:
+    case ThingKind::LineSlope:
+    case ThingKind::LineIntercept:
         return readSeries(thing, stage);
     case ThingKind::ParticleCount:
     case ThingKind::ParticleCountSort:

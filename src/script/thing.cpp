@@ -2,6 +2,8 @@
 
 #include "script/values.h"
 
+#include <algorithm>
+#include <span>
 #include <vector>
 
 namespace quendal {
@@ -54,6 +56,29 @@ bool isPlain(const IndexedName& name, std::string_view wanted) {
     return name.name == wanted && !name.index;
 }
 
+struct SeriesWord {
+    std::string_view name;
+    ThingKind kind;
+};
+// Of the whole series, of one of its points, of one of its fitted lines.
+constexpr SeriesWord kSeriesWords[] = {{"count", ThingKind::SeriesCount},
+                                       {"name", ThingKind::SeriesName},
+                                       {"joined", ThingKind::SeriesJoined},
+                                       {"lines", ThingKind::SeriesLines}};
+constexpr SeriesWord kPointWords[] = {{"x", ThingKind::SeriesX}, {"y", ThingKind::SeriesY}};
+constexpr SeriesWord kLineWords[] = {{"slope", ThingKind::LineSlope},
+                                     {"intercept", ThingKind::LineIntercept}};
+
+bool readWord(std::span<const SeriesWord> words, const IndexedName& name, Thing& thing) {
+    const auto found = std::find_if(words.begin(), words.end(), [&name](const SeriesWord& word) {
+        return word.name == name.name;
+    });
+    if (found != words.end()) {
+        thing.kind = found->kind;
+    }
+    return found != words.end();
+}
+
 bool readSeries(const Names& names, Thing& thing) {
     if (names[0].name != "series" || !names[0].index) {
         return false;
@@ -61,12 +86,21 @@ bool readSeries(const Names& names, Thing& thing) {
     thing.series = *names[0].index;
     const IndexedName& what = names[1];
     thing.number = what.index.value_or(0);
-    if (isPlain(what, "count")) {
-        thing.kind = ThingKind::SeriesCount;
-        return true;
+    if (!what.index) {
+        return readWord(kSeriesWords, what, thing);
     }
-    thing.kind = what.name == "x" ? ThingKind::SeriesX : ThingKind::SeriesY;
-    return (what.name == "x" || what.name == "y") && what.index;
+    return readWord(kPointWords, what, thing);
+}
+
+bool readFittedLine(const Names& names, Thing& thing) {
+    const bool line = names[0].name == "series" && names[0].index && names[1].name == "line" &&
+                      names[1].index && !names[2].index;
+    if (!line) {
+        return false;
+    }
+    thing.series = *names[0].index;
+    thing.number = *names[1].index;
+    return readWord(kLineWords, names[2], thing);
 }
 
 bool readParticles(const Names& names, Thing& thing) {
@@ -122,6 +156,9 @@ bool readSingle(const IndexedName& name, Thing& thing) {
 }
 
 bool readTriple(const Names& names, Thing& thing) {
+    if (names[0].name == "series") {
+        return readFittedLine(names, thing); // no form has this name
+    }
     thing.kind = ThingKind::Property;
     thing.control = {names[0].name, names[1]};
     thing.field = names[2];

@@ -24,8 +24,13 @@ enum class ThingKind {
     FormField,    // of the topmost form
     SessionField, // of the session state
     SeriesCount,
+    SeriesName,
+    SeriesJoined, // its points are joined by a line
+    SeriesLines,  // how many lines are fitted through them
     SeriesX,
     SeriesY,
+    LineSlope, // of a fitted line
+    LineIntercept,
     ParticleCount,     // of beaker or drops
     ParticleCountSort, // of one kind
     TopForm,
@@ -40,7 +45,7 @@ struct Thing {
     ControlName control;  // Property
     IndexedName field;    // property or field
     int series = 0;       // from 1
-    int number = 0;       // of the point, from 1, or the kind of particle
+    int number = 0;       // of the point or the fitted line, from 1, or the kind of particle
     bool inDrops = false; // the particles that fall
 };
 

@@ -19,6 +19,7 @@ class BeakerForm final : public Form, public ParticleScene {
         beaker_.CREATE(kHydroxide, 20, 20);
         drops_.CREATE(kSodium, 50, 0);
         series_.Data.Add(1, 0.5);
+        series_.fittedLines = {{.slope = 2, .intercept = -1.5}, {.slope = 0, .intercept = 0.5}};
         tmr_Second.onTimer = [this] { passSecond(); };
         but_Dialog.onClick = [] {
             Form dialog("frm_Over", {100, 100});
@@ -85,6 +86,18 @@ TEST(ScriptScene, ReadsTheLearnersSeries) {
     EXPECT_EQ(played.status, 0) << played.errors;
     EXPECT_EQ(playBeaker("print series(3).count").status, 2);
     EXPECT_EQ(playBeaker("print series(0).count").status, 2);
+}
+
+TEST(ScriptScene, ReadsTheLooksAndTheFittedLinesOfASeries) {
+    const Played played = playBeaker(
+        "expect series(1).name == Werte\nexpect series(1).joined == true\n"
+        "expect series(1).lines == 2\nexpect series(1).line(1).slope == 2\n"
+        "expect series(1).line(1).intercept == -1.5\nexpect series(1).line(2).slope == 0\n"
+        "expect series(1).line(2).intercept == 0.5\nexpect series(1).line(3).slope == \"\"\n"
+        "expect series(1).line(0).intercept == \"\"\nexpect series(2).lines == 0\n"
+        "expect series(2).line(1).slope == \"\"\nexpect series(2).name == \"\"");
+    EXPECT_EQ(played.status, 0) << played.errors;
+    EXPECT_EQ(playBeaker("print series(3).line(1).slope").status, 2);
 }
 
 TEST(ScriptScene, StaysInViewBehindADialog) {
