@@ -23,14 +23,21 @@ struct SpeciesLine {
 class AnyBenchTest : public ShellTest {
   protected:
     static constexpr const char* kCurve = "Volumen;pH\n0;0,1\n10;7\n20;13,4\n";
+    // The total and four ions.
+    static constexpr const char* kIonCurve =
+        "V(Z);Summe;Teil 1;Teil 2;Teil 3;Teil 4\n0;42;35;7;0;0\n20;31;0;6;8;17\n";
 
     AnyBenchTest() {
         session().SessionChartFactory = &host.calculator.ChartFactory();
-        for (const char* stem : {"phstark", "phschwach", "potsilber"}) {
-            for (const char* digits : {"06", "08", "10", "12", "14"}) {
+        for (const char* digits : {"06", "08", "10", "12", "14"}) {
+            for (const char* stem : {"phstark", "phschwach", "potsilber"}) {
                 host.files.write(std::string("data/") + stem + digits + ".crv", kCurve);
             }
+            for (const char* stem : {"lf-strong-", "lf-weak-", "lf-silver-"}) {
+                host.files.write(std::string("data/") + stem + digits + ".crv", kIonCurve);
+            }
         }
+        host.files.write("data/lf-ph.crv", kIonCurve);
     }
 
     virtual std::unique_ptr<Workbench> make() = 0;
