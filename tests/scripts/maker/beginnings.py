@@ -6,13 +6,14 @@ from texts import CURVE_MISSING, quoted
 
 FRESH = ("form.vVol", "form.vPoints", "form.vWrong", "form.sClicks", "beaker.count", "drops.count")
 QUICK = {WEAK: 1.4, SILVER: 1.0}  # mol/L
+QUICK_TITLE = ": mL by mL as fast as the tap opens, then a calculation at once."
 CURVE_14 = {WEAK: "phschwach14.crv", SILVER: "potsilber14.crv"}
 QUICK_CLICK = ("click ctl_Button3", "until session.SessionBusy == false")
 LENS_SLIDES_IN = ("click but_ShowMag", "wait 0.5", "expect pic_Magnify.visible == true")
 LENS_SLIDES_OUT = ("click but_ShowMag", "until top == frm_AppMagnify", "wait 0.5", "key ESC")
 
 
-def begin_again(learner, concentration):
+def begin_task_again(learner, concentration):
     learner.say("menu mnu_FileNew", "expect form frm_DialogStartup", "expect nobox",
                 "expect noreport", "expect lst_Mol.text == 1.0")
     learner.expect("opt_EnableSounds.enabled", False)
@@ -23,6 +24,10 @@ def begin_again(learner, concentration):
         learner.expect(thing, 0)
     learner.hidden("frm_Calc", "frm_CalcDirect")
     learner.expect("series(1).count", 0)
+
+
+def begin_again(learner, concentration):
+    begin_task_again(learner, concentration)
     learner.expect("but_ShowMag.visible", learner.kind is WEAK)
     learner.hidden("pic_Magnify")
 
@@ -32,19 +37,19 @@ def dose_quietly(learner, count):
     learner.dose(count, look=False)
 
 
-def leave_while_dosing(learner):
+def leave_while_dosing(learner, begin=begin_again):
     learner.say("# before anything")
-    begin_again(learner, 0.6)
+    begin(learner, 0.6)
     learner.say("# the pipette runs", "click ctl_Button1", "wait 1.5",
                 "expect session.SessionBusy == true", "expect drops.count != 0")
-    begin_again(learner, 0.8)
+    begin(learner, 0.8)
     learner.say("# the pipette leaves", "click ctl_Button1", "until form.vVol == 10", "wait 1",
                 "expect session.SessionBusy == true")
-    begin_again(learner, 1.0)
+    begin(learner, 1.0)
     learner.say("# a drop falls")
     learner.pipette(look=False)
     learner.say("click ctl_Button3", "wait 0.4", "expect drops.count == 2")
-    begin_again(learner, 1.4)
+    begin(learner, 1.4)
 
 
 def leave_while_calculating(learner):
@@ -114,9 +119,7 @@ def click_to_the_end(learner):
     learner.say("expect nobox")
 
 
-def quick(kind):
-    learner = GuidedLearner(kind, QUICK[kind], kind.title + ": mL by mL as fast as the tap opens, "
-                            "then a calculation at once.", brief=True)
+def quick(learner):
     learner.enter()
     learner.pipette(look=False)
     click_quickly(learner, 5)
@@ -157,5 +160,6 @@ def no_data(kind):
 def scripts():
     for kind in KINDS:
         yield kind.name + "_restart", restart(kind)
-        yield kind.name + "_quick", quick(kind)
+        learner = GuidedLearner(kind, QUICK[kind], kind.title + QUICK_TITLE, brief=True)
+        yield kind.name + "_quick", quick(learner)
         yield kind.name + "_no_data", no_data(kind)

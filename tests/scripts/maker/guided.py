@@ -5,7 +5,7 @@ from learner import Learner
 from looks import look_at
 from number_texts import fixed, number, plain
 from steps import CHOICE, EXACTLY, FIELDS, FIELDS_BEHIND_SAMPLE, LAST, agrees, route
-from texts import HELP_QUESTION, NUMBERS_QUESTION, REMINDER, UNREADABLE, quoted
+from texts import HELP_QUESTION, NUMBERS_QUESTION, UNREADABLE, quoted
 
 KEPT = object()  # as an answer: what stands in the field, or is chosen, already
 OPTIONS = range(4)
@@ -29,6 +29,7 @@ class GuidedLearner(Learner):
 
     def calculate_after_wrong(self, answer):
         self.wrong += 1
+        self.helped += self.kind.direct_help_counts
         self.say("click but_Calc", "type txt_Ph " + answer, "answer yes", "click but_CalcDone")
         self.expect_signal(1)
         self.expect_direct_question()
@@ -224,7 +225,7 @@ class GuidedLearner(Learner):
     def climb(self, replies):
         """The boxes behind this failure, and what was taken: "rung", "numbers" or nothing."""
         if self.tries < 2:
-            return [("ok", REMINDER)], None
+            return [("ok", self.kind.reminder)], None
         if self.counts_anew():
             self.tries = 0
         boxes = []
@@ -232,13 +233,12 @@ class GuidedLearner(Learner):
             boxes.append(("yesno", HELP_QUESTION))
             if replies.pop(0) == "yes":
                 return boxes, "rung"
-        if self.kind is WEAK:
-            self.given += 1
+        self.given += self.kind.offers_count
         numbers = self.kind.choice_question if self.step == CHOICE else NUMBERS_QUESTION
         return [*boxes, ("yesno", numbers)], "numbers" if replies.pop(0) == "yes" else None
 
     def expect_failure(self, boxes):
-        if self.kind is WEAK:
+        if self.kind.mistakes_reported:
             self.say(f"expect report progress {self.points} {self.wrong}")
         else:
             self.say("expect noreport")

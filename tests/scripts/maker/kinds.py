@@ -2,6 +2,8 @@
 
 from dataclasses import dataclass
 
+from texts import REMINDER
+
 REQUIRED_POINTS = {  # mL, by the sample's concentration in mol/L
     0.6: [0, 1, 3, 5, 6, 7, 12],
     0.8: [0, 1, 4, 7, 8, 9, 16],
@@ -28,7 +30,12 @@ class Kind:
     unit: str
     calculators: tuple  # the steps that offer one
     rungs: dict  # step: the detail that the tutor offers to open there
-    counting_anew: tuple  # steps at which the tries begin anew behind each question
+    counting_anew: tuple = ()  # steps at which the tries begin anew behind each question
+    start_form: str = ""  # comes before the bench
+    reminder: str = REMINDER
+    offers_count: bool = False  # the offer of numbers is a solution, taken or not
+    mistakes_reported: bool = False
+    direct_help_counts: bool = False  # as help taken, behind a wrong direct answer
 
 
 WEAK = Kind(
@@ -45,7 +52,8 @@ WEAK = Kind(
     unit="",
     calculators=(9, 10, 11, 12),
     rungs={3: "vDetailAcid", 6: "vDetailBase", 7: "vDetailCase", 10: "vDetailConc"},
-    counting_anew=(),
+    offers_count=True,
+    mistakes_reported=True,
 )
 SILVER = Kind(
     name="silver",
@@ -68,6 +76,7 @@ SILVER = Kind(
         12: "vDetailFinal",
     },
     counting_anew=(10, 11, 12),
+    start_form="frm_AppMainSilverStart",
 )
 KINDS = (WEAK, SILVER)
 ALL_RUNGS = frozenset((*WEAK.rungs.values(), *SILVER.rungs.values(), "vDetailStart"))

@@ -1,6 +1,6 @@
 """A learner at one task: what is done becomes script lines, with what has to come of it."""
 
-from kinds import DEMO_CONCENTRATION, LAST_VOLUME, REQUIRED_POINTS, SILVER, WEAK
+from kinds import DEMO_CONCENTRATION, LAST_VOLUME, REQUIRED_POINTS, WEAK
 from models import mixture_of
 from number_texts import fixed, number
 from steps import answers
@@ -19,6 +19,8 @@ def word(value):
 
 
 class Learner:
+    leaving_result = "click bar_Buttons"
+
     def __init__(self, kind, concentration, title, *, required=False, demo=False, brief=False,
                  before_start=(), sign=",", hears=True):
         self.kind = kind
@@ -73,8 +75,8 @@ class Learner:
 
     def enter(self, *choices):
         self.choose_task(*choices)
-        if self.kind is SILVER:
-            self.say("expect form frm_AppMainSilverStart", "expect form.Accepted == false")
+        if self.kind.start_form:
+            self.say("expect form " + self.kind.start_form, "expect form.Accepted == false")
             self.say("click bar_Buttons")
         self.say("expect form " + self.kind.form, "expect nobox")
         asked = REQUIRED_POINTS[self.concentration] if self.required or self.demo else []
@@ -84,11 +86,15 @@ class Learner:
 
     def pipette(self, look=True):
         self.say("click ctl_Button1", "settle", "expect form.vVol == 10")
+        if look:
+            self.look_at_sample()
+
+    def look_at_sample(self):
         count = self.mixture().sample_particles
-        if look and self.kind is WEAK:
+        if self.kind is WEAK:
             self.expect("beaker.countsort(10)", count)
             self.expect("beaker.count", count)
-        elif look:
+        else:
             self.expect("beaker.countsort(3)", count)
             self.expect("beaker.countsort(5)", count)
             self.expect("beaker.count", 2 * count)
@@ -130,9 +136,12 @@ class Learner:
         self.expect_signal(2)
         self.hidden(self.kind.form + ".frm_CalcDirect")
         self.point_done(mixture.now)
-        shown = fixed(mixture.now, 3, self.sign) if self.kind is WEAK else "?"
-        self.expect(self.kind.form + ".lab_pH.text", shown)
+        self.expect(self.kind.form + ".lab_pH.text", self.reading())
         self.task_done()
+
+    def reading(self):
+        """What the form shows behind a right direct answer."""
+        return fixed(self.mixture().now, 3, self.sign) if self.kind is WEAK else "?"
 
     def fail_directly(self, text):
         """A wrong answer in the open frame; the tutor's help is refused."""
@@ -177,4 +186,4 @@ class Learner:
         self.say(f"expect report result {score} {mark} {quoted(praise)}")
         if self.hears:
             self.say("expect sound " + sound)
-        self.say("click bar_Buttons")
+        self.say(self.leaving_result)

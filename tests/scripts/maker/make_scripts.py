@@ -11,6 +11,15 @@ import details
 import free
 import ladder
 import lens
+import lf_beginnings
+import lf_break
+import lf_calculator
+import lf_data
+import lf_demo
+import lf_log
+import lf_looks
+import lf_mistakes
+import lf_whole
 import mistakes
 import required
 import strong
@@ -26,6 +35,15 @@ FAMILIES = (
     mistakes,
     beginnings,
     lens,
+    lf_whole,
+    lf_break,
+    lf_mistakes,
+    lf_calculator,
+    lf_demo,
+    lf_log,
+    lf_looks,
+    lf_beginnings,
+    lf_data,
     strong,
     strong_ladder,
 )

@@ -94,15 +94,14 @@ def near_answers(value, digits):
     return wrong, right
 
 
-def near(kind, concentration, first):
-    digits = kind.direct_digits
-    learner = GuidedLearner(kind, concentration, f"{kind.title}: a direct answer counts with "
-                            f"{DECIMALS[digits]} decimals.", brief=True)
+def near(learner, first):
+    """Two points, each with answers just beside the right one before it."""
     learner.enter()
     learner.pipette(look=False)
     for point in range(2):
         learner.dose(first + point - learner.added, look=False)
-        wrong, right = near_answers(learner.mixture().now, digits)
+        mixture = learner.mixture()
+        wrong, right = near_answers(mixture.now, mixture.digits)
         learner.say("click but_Calc")
         for text in wrong:
             learner.fail_directly(text)
@@ -116,7 +115,12 @@ def near(kind, concentration, first):
     return learner.lines
 
 
+def near_titled(kind, concentration, first):
+    title = f"{kind.title}: a direct answer counts with {DECIMALS[kind.direct_digits]} decimals."
+    return near(GuidedLearner(kind, concentration, title, brief=True), first)
+
+
 def scripts():
     for kind in KINDS:
         yield kind.name + "_bad_input", bad_input(kind, *BAD_INPUT[kind])
-        yield kind.name + "_direct", near(kind, *NEAR[kind])
+        yield kind.name + "_direct", near_titled(kind, *NEAR[kind])

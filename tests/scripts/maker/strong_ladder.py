@@ -1,12 +1,8 @@
 """The strong acid's ladder of help: at 5 mL every step is wrong until the tutor fills it in."""
 
 from strong import DOSE, opening
-from texts import HELP_QUESTION, NUMBERS_QUESTION, quoted
+from texts import HELP_QUESTION, NUMBERS_QUESTION, REMINDER_IN_LINES, quoted
 
-REMINDER = (
-    "Das ist nicht richtig!\\nÜberprüfe Deine Eingaben!\\n"
-    "Beachte die Informationen rechts an der Seite!"
-)
 DIRECT_QUESTION = (
     "Der von Dir errechnete pH-Wert ist leider falsch! "
     "Soll ich Dir beim Errechnen Schritt für Schritt helfen?"
@@ -35,7 +31,7 @@ class Ladder:
 
     def remind(self, step, wrong=WRONG):
         self.type_wrong(step, wrong)
-        self.expect_box(step, f'expect box ok "" "{REMINDER}"')
+        self.expect_box(step, 'expect box ok "" ' + quoted(REMINDER_IN_LINES))
 
     def ask(self, step, wrong, question, reply):
         self.type_wrong(step, wrong)

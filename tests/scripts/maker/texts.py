@@ -1,7 +1,11 @@
-"""What the program says to a learner, on both forms alike."""
+"""What the program says to a learner, on several forms alike."""
 
 REMINDER = (
     "Das ist nicht richtig! Überprüfe Deine Eingaben! "
+    "Beachte die Informationen rechts an der Seite!"
+)
+REMINDER_IN_LINES = (
+    "Das ist nicht richtig!\nÜberprüfe Deine Eingaben!\n"
     "Beachte die Informationen rechts an der Seite!"
 )
 HELP_QUESTION = "Das ist leider immer noch falsch! Soll ich Dir helfen?"
@@ -29,4 +33,5 @@ MARKS = (  # least score, mark, word, sound
 
 def quoted(text):
     """A word of a script line, whatever is in it."""
-    return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
+    text = text.replace("\\", "\\\\").replace('"', '\\"')
+    return '"' + text.replace("\n", "\\n") + '"'
