@@ -189,8 +189,8 @@ std::string ConductoGuidance::sumLine() const {
     return line;
 }
 
-// Nothing sets the wish for lines in the first row or at the direct input, so where it is asked
-// they never come there: meant.
+// Nothing sets the wish for lines in the first row, so where it is asked they never come there:
+// meant.
 bool ConductoGuidance::offersLines(int index) const {
     if (variant_.lines == LinesOffered::Always) {
         return true;
