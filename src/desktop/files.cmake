@@ -8,6 +8,9 @@ set(QUENDAL_DESKTOP_FILES
   files/rtf_reader.cpp
   files/rtf_tokens.cpp
   files/table_grid.cpp
-  files/text_bytes.cpp)
+  files/text_bytes.cpp
+  files/wmf_objects.cpp
+  files/wmf_reader.cpp
+  files/wmf_shapes.cpp)
 list(TRANSFORM QUENDAL_DESKTOP_FILES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
 quendal_library(quendal_desktop_files SOURCES ${QUENDAL_DESKTOP_FILES} LINKS quendal_host)

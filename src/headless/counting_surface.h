@@ -23,6 +23,9 @@ class CountingSurface final : public Surface {
 
     double ScaleWidth() const override { return surfaceScale(owner_).width; }
     double ScaleHeight() const override { return surfaceScale(owner_).height; }
+    Size TextSize(std::string_view text, const FontSpec& font) const override {
+        return estimatedTextSize(text, font);
+    }
     void Clear() override { ++counts_.clears; }
     void Line(Point, Point, Color, double) override { ++counts_.lines; }
     void Box(Point, Point, Color) override { ++counts_.boxes; }

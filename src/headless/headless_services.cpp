@@ -93,6 +93,12 @@ PicturePtr readGifSize(std::string_view bytes) {
     return width > 0 && height > 0 ? sizeOnlyPicture(width, height) : nullptr;
 }
 
+PicturePtr readSpriteSize(std::string_view bytes) {
+    const auto head = placeableHead(bytes);
+    return head ? sizeOnlyPicture(wholePx(head->size().width), wholePx(head->size().height))
+                : nullptr;
+}
+
 } // namespace
 
 Color SizeOnlyGraphics::SystemColor(int number) const {
@@ -102,10 +108,18 @@ Color SizeOnlyGraphics::SystemColor(int number) const {
 PicturePtr SizeOnlyGraphics::LoadPicture(const std::string& path) {
     const auto bytes = files_.read(path);
     PicturePtr picture = bytes ? readGifSize(*bytes) : nullptr;
+    if (bytes && picture == nullptr) {
+        picture = readSpriteSize(*bytes);
+    }
     if (picture == nullptr) {
         logLine("picture " + path + (bytes ? " is broken" : " is missing"));
     }
     return picture;
+}
+
+PicturePtr SizeOnlyGraphics::Scaled(const PicturePtr& picture, int width, int height) {
+    const bool size = isPictureSide(width) && isPictureSide(height);
+    return picture != nullptr && size ? sizeOnlyPicture(width, height) : nullptr;
 }
 
 } // namespace quendal

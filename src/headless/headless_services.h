@@ -87,6 +87,7 @@ class SizeOnlyGraphics final : public Graphics {
     explicit SizeOnlyGraphics(const FileService& files) : files_(files) {}
     Color SystemColor(int number) const override;
     PicturePtr LoadPicture(const std::string& path) override;
+    PicturePtr Scaled(const PicturePtr& picture, int width, int height) override;
 
   private:
     const FileService& files_;

@@ -123,6 +123,28 @@ void ctl_Pannel::describe(FieldTable& table) const {
     table.add("backcolor", backColor_);
 }
 
+void Line::describe(FieldTable& table) const {
+    Control::describe(table);
+    table.add("x1", from_.x);
+    table.add("y1", from_.y);
+    table.add("x2", to_.x);
+    table.add("y2", to_.y);
+}
+
+void Line::setEnds(Point from, Point to, double thickness) {
+    if (from == from_ && to == to_ && thickness == thickness_) {
+        return;
+    }
+    from_ = from;
+    to_ = to;
+    thickness_ = thickness;
+    const double air = thickness + 1;
+    const Point least{std::min(from.x, to.x), std::min(from.y, to.y)};
+    const Point most{std::max(from.x, to.x), std::max(from.y, to.y)};
+    setPlace(least.x - air, least.y - air, most.x - least.x + 2 * air, most.y - least.y + 2 * air);
+    notify(Aspect::Value);
+}
+
 void ctl_Title::describe(FieldTable& table) const {
     Control::describe(table);
     table.add("title", title_);

@@ -1,6 +1,8 @@
 #include "host/file_name_match.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 namespace quendal {
 
@@ -81,6 +83,27 @@ std::string foldName(std::string_view name) {
         }
     }
     return folded;
+}
+
+std::string upperName(std::string_view name) {
+    const std::string folded = foldName(name);
+    std::string upper;
+    for (std::string_view rest = folded; !rest.empty();) {
+        const auto* capital =
+            std::find_if(std::begin(kFoldings), std::end(kFoldings), [&](const Folding& folding) {
+                return folding.written.size() == folding.folded.size() &&
+                       rest.starts_with(folding.folded);
+            });
+        if (capital != std::end(kFoldings)) {
+            upper += capital->written;
+            rest.remove_prefix(capital->folded.size());
+        } else {
+            const char c = rest.front();
+            upper += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+            rest.remove_prefix(1);
+        }
+    }
+    return upper;
 }
 
 bool matchesPattern(std::string_view name, std::string_view pattern) {

@@ -10,6 +10,9 @@ namespace quendal {
 // Letters beyond A to Z, umlauts and sharp s stay as they are.
 std::string foldName(std::string_view name);
 
+// The same in capitals; the sharp s stays as it is.
+std::string upperName(std::string_view name);
+
 // `name` and `pattern` folded; "*" stands for any characters, "?" for exactly one. "*.*" matches
 // names without a point too.
 bool matchesPattern(std::string_view name, std::string_view pattern);

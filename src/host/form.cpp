@@ -104,7 +104,7 @@ bool pressBar(const Form& form, Key key) {
 } // namespace
 
 bool Form::userKey(Key key, const std::string& character) {
-    if (Form_KeyDown(key)) {
+    if (Form_KeyDown(key) || (!character.empty() && Form_KeyPress(character))) {
         return true;
     }
     if (focus_ != nullptr && focus_->userKey(key, character)) {

@@ -72,6 +72,8 @@ class Form {
     virtual void Form_Unload() {}
     // True swallows the key.
     virtual bool Form_KeyDown(Key /*key*/) { return false; }
+    // The same for a key that writes; one UTF-8 character.
+    virtual bool Form_KeyPress(const std::string& /*character*/) { return false; }
     virtual void Form_MouseDown(double /*x*/, double /*y*/, MouseButton /*button*/) {}
 
   private:

@@ -19,6 +19,9 @@ class Graphics {
     }
     // Null and one logged line when the file is missing or broken.
     virtual PicturePtr LoadPicture(const std::string& path) = 0;
+    // The picture in this many pixels, for whoever shows it at that size again and again; null for
+    // null and for a size without width or height.
+    virtual PicturePtr Scaled(const PicturePtr& picture, int width, int height) = 0;
 };
 
 } // namespace quendal

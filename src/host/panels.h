@@ -103,11 +103,22 @@ class ctl_Seperator final : public Control {
     ControlKind kind() const override { return ControlKind::Separator; }
 };
 
-// A line between groups.
+// A straight line from one point of its container to another, in the colour of its text.
 class Line final : public Control {
   public:
     using Control::Control;
     ControlKind kind() const override { return ControlKind::Line; }
+    void describe(FieldTable& table) const override;
+    Point from() const { return from_; }
+    Point to() const { return to_; }
+    double thickness() const { return thickness_; }
+    // Sets its place too, to the box around the line.
+    void setEnds(Point from, Point to, double thickness = 1);
+
+  private:
+    Point from_;
+    Point to_;
+    double thickness_ = 1;
 };
 
 // Takes commands from outside the program's own windows; never shown.

@@ -4,6 +4,7 @@
 #include "host/control.h"
 #include "host/picture.h"
 #include "host/surface.h"
+#include "host/text_size.h"
 
 #include <memory>
 
@@ -20,6 +21,9 @@ class NullSurface final : public Surface {
     explicit NullSurface(const PictureBox& owner) : owner_(owner) {}
     double ScaleWidth() const override { return surfaceScale(owner_).width; }
     double ScaleHeight() const override { return surfaceScale(owner_).height; }
+    Size TextSize(std::string_view text, const FontSpec& font) const override {
+        return estimatedTextSize(text, font);
+    }
     void Clear() override {}
     void Line(Point, Point, Color, double) override {}
     void Box(Point, Point, Color) override {}

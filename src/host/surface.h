@@ -29,6 +29,9 @@ class Surface {
 
     virtual double ScaleWidth() const = 0;
     virtual double ScaleHeight() const = 0;
+    // Room that Text takes for `text`, without any margin; the height is that of a line of the
+    // font, whatever the text.
+    virtual Size TextSize(std::string_view text, const FontSpec& font) const = 0;
 
     // Fills all with the back colour of the picture box that the surface belongs to.
     virtual void Clear() = 0;

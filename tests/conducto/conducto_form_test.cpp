@@ -100,6 +100,9 @@ class ScaleSurface final : public Surface {
   public:
     double ScaleWidth() const override { return 312; }
     double ScaleHeight() const override { return 400; }
+    Size TextSize(std::string_view text, const FontSpec& font) const override {
+        return estimatedTextSize(text, font);
+    }
     void Clear() override {}
     void Line(Point, Point, Color, double) override { ++lines; }
     void Box(Point, Point, Color) override {}

@@ -15,6 +15,7 @@ quendal_tests(desktop_services_test
     services_rich_text_test.cpp
     services_rtf_test.cpp
     services_sound_test.cpp
+    wmf_reader_test.cpp
   LINKS quendal_desktop quendal_test_support)
 
 # Pictures of boxes, calculator and chart, for looking: quendal_desktop_services_gallery FOLDER

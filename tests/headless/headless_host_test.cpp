@@ -1,3 +1,4 @@
+#include "desktop/wmf_samples.h"
 #include "headless/choose_data_folder.h"
 #include "headless/headless_host.h"
 #include "headless/small_forms.h"
@@ -172,6 +173,36 @@ TEST(HeadlessHost, KnowsPicturesByTheirSize) {
     ASSERT_NE(picture, nullptr);
     EXPECT_EQ(picture->width(), 300);
     EXPECT_EQ(picture->height(), 32);
+}
+
+TEST(HeadlessHost, KnowsSpritesByTheirNaturalSize) {
+    Playground ground;
+    const std::string whole = test::WmfWriter(1000, 500, 1440).bytes();
+    Graphics& graphics = CoreLib().Graphics;
+    const PicturePtr sprite = graphics.LoadPicture(PictureFile(whole).name());
+    ASSERT_NE(sprite, nullptr);
+    EXPECT_EQ(sprite->width(), 67); // 66.7
+    EXPECT_EQ(sprite->height(), 33);
+    const PicturePtr scaled = graphics.Scaled(sprite, 300, 150);
+    ASSERT_NE(scaled, nullptr);
+    EXPECT_EQ(scaled->width(), 300);
+    EXPECT_EQ(scaled->height(), 150);
+    EXPECT_EQ(graphics.Scaled(sprite, 0, 150), nullptr);
+    EXPECT_EQ(graphics.Scaled(sprite, 300, 8193), nullptr);
+    EXPECT_EQ(graphics.Scaled(nullptr, 300, 150), nullptr);
+}
+
+TEST(HeadlessHost, SpritesCutShortAreBroken) {
+    Playground ground;
+    int lines = 0;
+    const LogSink before = exchangeLogSink([&](std::string_view) { ++lines; });
+    const std::string whole = test::richWmf().bytes();
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        const PictureFile file(whole.substr(0, size));
+        EXPECT_EQ(CoreLib().Graphics.LoadPicture(file.name()), nullptr) << size;
+    }
+    exchangeLogSink(before);
+    EXPECT_EQ(lines, static_cast<int>(whole.size()));
 }
 
 TEST(HeadlessHost, LogsPicturesThatAreMissingOrBroken) {

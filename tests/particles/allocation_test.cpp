@@ -1,6 +1,7 @@
 // A settled beaker's frame asks for no memory. This binary counts every allocation.
 #include "counted_allocations.h"
 #include "host/surface.h"
+#include "host/text_size.h"
 #include "particles/cls_Molecules.h"
 #include "particles/grid_tables.h"
 #include "particles/liquid_owner.h"
@@ -16,6 +17,9 @@ class BlindSurface final : public Surface {
   public:
     double ScaleWidth() const override { return 400; }
     double ScaleHeight() const override { return 300; }
+    Size TextSize(std::string_view text, const FontSpec& font) const override {
+        return estimatedTextSize(text, font);
+    }
     void Clear() override {}
     void Line(Point, Point, Color, double) override {}
     void Box(Point, Point, Color) override { ++shapes; }

@@ -1,6 +1,7 @@
 // A frame of a scene asks for no memory. This binary counts every allocation.
 #include "counted_allocations.h"
 #include "host/surface.h"
+#include "host/text_size.h"
 #include "particles/lens_crystal.h"
 #include "particles/lens_pairs.h"
 
@@ -15,6 +16,9 @@ class BlindSurface final : public Surface {
   public:
     double ScaleWidth() const override { return 280; }
     double ScaleHeight() const override { return 249; }
+    Size TextSize(std::string_view text, const FontSpec& font) const override {
+        return estimatedTextSize(text, font);
+    }
     void Clear() override {}
     void Line(Point, Point, Color, double) override {}
     void Box(Point, Point, Color) override { ++shapes; }

@@ -361,6 +361,9 @@ class OutlineSurface final : public Surface {
   public:
     double ScaleWidth() const override { return 280; }
     double ScaleHeight() const override { return 249; }
+    Size TextSize(std::string_view text, const FontSpec& font) const override {
+        return estimatedTextSize(text, font);
+    }
     void Clear() override {}
     void Line(Point, Point, Color, double) override {}
     void Box(Point, Point, Color) override {}

@@ -90,6 +90,10 @@ PicturePtr FakeGraphics::LoadPicture(const std::string& path) {
     return picture == pictures_.end() ? nullptr : picture->second;
 }
 
+PicturePtr FakeGraphics::Scaled(const PicturePtr& picture, int width, int height) {
+    return picture == nullptr ? nullptr : std::make_shared<BlankPicture>(width, height);
+}
+
 void FakeGraphics::addPicture(const std::string& path, int width, int height) {
     pictures_[path] = std::make_shared<BlankPicture>(width, height);
 }

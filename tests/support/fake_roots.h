@@ -83,6 +83,7 @@ class FakeGraphics final : public Graphics {
   public:
     Color SystemColor(int /*number*/) const override { return buttonColor; }
     PicturePtr LoadPicture(const std::string& path) override;
+    PicturePtr Scaled(const PicturePtr& picture, int width, int height) override;
 
     // A blank picture of this size; takes the place of the file `path`.
     void addPicture(const std::string& path, int width, int height);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/surface.h"
+#include "host/text_size.h"
 
 #include <string>
 #include <vector>
@@ -24,6 +25,26 @@ class RecordingSurface final : public Surface {
         friend bool operator==(const BoxMark&, const BoxMark&) = default;
     };
 
+    struct LineMark {
+        Point from;
+        Point to;
+        Color color;
+        friend bool operator==(const LineMark&, const LineMark&) = default;
+    };
+    struct PolygonMark {
+        std::vector<Point> corners;
+        Color fill;
+        Color outline;
+        friend bool operator==(const PolygonMark&, const PolygonMark&) = default;
+    };
+    struct TextMark {
+        Point place;
+        std::string text;
+        FontSpec font;
+        Color color;
+        friend bool operator==(const TextMark&, const TextMark&) = default;
+    };
+
     struct StretchMark {
         Rect to;
         PicturePtr picture;
@@ -36,14 +57,23 @@ class RecordingSurface final : public Surface {
 
     double ScaleWidth() const override { return width_; }
     double ScaleHeight() const override { return height_; }
+    Size TextSize(std::string_view text, const FontSpec& font) const override {
+        return estimatedTextSize(text, font);
+    }
     void Clear() override {
         circles.clear();
         boxes.clear();
         stretches.clear();
         copies.clear();
+        lines.clear();
+        polygons.clear();
+        texts.clear();
         order.clear();
     }
-    void Line(Point, Point, Color, double) override { order += 'l'; }
+    void Line(Point from, Point to, Color color, double) override {
+        lines.push_back({from, to, color});
+        order += 'l';
+    }
     void Box(Point from, Point to, Color color) override {
         boxes.push_back({from, to, color});
         order += 'b';
@@ -52,8 +82,14 @@ class RecordingSurface final : public Surface {
         circles.push_back({centre, radius, fillColor(), outline});
         order += 'c';
     }
-    void Polygon(std::span<const Point>, Color) override { order += 'p'; }
-    void Text(Point, std::string_view, const FontSpec&, Color) override { order += 't'; }
+    void Polygon(std::span<const Point> corners, Color outline) override {
+        polygons.push_back({{corners.begin(), corners.end()}, fillColor(), outline});
+        order += 'p';
+    }
+    void Text(Point place, std::string_view text, const FontSpec& font, Color color) override {
+        texts.push_back({place, std::string(text), font, color});
+        order += 't';
+    }
     void Copy(const PicturePtr& picture, Point) override {
         copies.push_back(picture);
         order += 'i';
@@ -68,6 +104,9 @@ class RecordingSurface final : public Surface {
     std::vector<BoxMark> boxes;
     std::vector<StretchMark> stretches;
     std::vector<PicturePtr> copies;
+    std::vector<LineMark> lines;
+    std::vector<PolygonMark> polygons;
+    std::vector<TextMark> texts;
     // One letter for each operation: line, box, circle, polygon, text, image, stretched image.
     std::string order;
 

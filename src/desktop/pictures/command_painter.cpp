@@ -79,6 +79,11 @@ QRect CommandPainter::place(const DrawCommand& command) const {
     if (command.kind == DrawCommand::Kind::Stretch) {
         return {pixel(command.a), pixel(command.b) - QPoint(1, 1)};
     }
+    if (command.kind == DrawCommand::Kind::Box) {
+        const Point least{std::min(command.a.x, command.b.x), std::min(command.a.y, command.b.y)};
+        const Point most{std::max(command.a.x, command.b.x), std::max(command.a.y, command.b.y)};
+        return {pixel(least), pixel({most.x + 1, most.y + 1}) - QPoint(1, 1)};
+    }
     return {pixel(command.a), sizeOf(*command.picture, stretch_)};
 }
 

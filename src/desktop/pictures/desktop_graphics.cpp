@@ -3,6 +3,7 @@
 #include "desktop/pictures/desktop_picture.h"
 #include "desktop/windows/look.h"
 #include "host/log.h"
+#include "host/picture_bytes.h"
 
 namespace quendal {
 
@@ -13,6 +14,15 @@ std::string twinName(const std::string& path) {
     const std::size_t cut = path.find_last_of("/\\");
     const std::size_t start = cut == std::string::npos ? 0 : cut + 1;
     return path.substr(0, start) + "x3/" + path.substr(start);
+}
+
+PicturePtr loadDrawing(const std::string& path, const std::string& bytes) {
+    WmfReading reading = readWmf(bytes);
+    if (!reading.drawing) {
+        logLine("picture broken: " + path + " (" + std::string(reading.fault) + ")");
+        return nullptr;
+    }
+    return DesktopPicture::fromDrawing(std::move(*reading.drawing));
 }
 
 } // namespace
@@ -27,6 +37,9 @@ PicturePtr DesktopGraphics::LoadPicture(const std::string& path) {
         logLine("picture missing: " + path);
         return nullptr;
     }
+    if (isPlaceable(*bytes)) {
+        return loadDrawing(path, *bytes);
+    }
     QImage image = decodePicture(*bytes);
     if (image.isNull()) {
         logLine("picture broken: " + path);
@@ -36,6 +49,14 @@ PicturePtr DesktopGraphics::LoadPicture(const std::string& path) {
     const QString twinFile =
         files_.FileExists(twin) ? QString::fromStdString(files_.realName(twin)) : QString();
     return std::make_shared<DesktopPicture>(std::move(image), twinFile);
+}
+
+PicturePtr DesktopGraphics::Scaled(const PicturePtr& picture, int width, int height) {
+    const auto* known = dynamic_cast<const DesktopPicture*>(picture.get());
+    if (known == nullptr || !isPictureSide(width) || !isPictureSide(height)) {
+        return nullptr;
+    }
+    return std::make_shared<DesktopPicture>(known->inSize({width, height}));
 }
 
 } // namespace quendal

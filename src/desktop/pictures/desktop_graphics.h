@@ -10,8 +10,11 @@ class DesktopGraphics final : public Graphics {
   public:
     explicit DesktopGraphics(const FileService& files) : files_(files) {}
     Color SystemColor(int number) const override;
-    // A twin three times the size is taken from the subfolder "x3" beside the file.
+    // A twin three times the size is taken from the subfolder "x3" beside the file. A placeable
+    // metafile becomes a picture of its natural size that is painted anew at other sizes.
     PicturePtr LoadPicture(const std::string& path) override;
+    // Null beyond kLargestPictureSide too.
+    PicturePtr Scaled(const PicturePtr& picture, int width, int height) override;
 
   private:
     const FileService& files_;

@@ -1,5 +1,6 @@
 #include "desktop/pictures/desktop_picture.h"
 
+#include "desktop/pictures/sprite_renderer.h"
 #include "desktop/pictures/stretch.h"
 #include "host/log.h"
 #include "host/picture_bytes.h"
@@ -15,10 +16,10 @@ namespace quendal {
 
 namespace {
 
-constexpr int kLargestSide = 8192; // px; a picture beyond it is taken for broken
 constexpr std::size_t kKeptSizes = 3;
 constexpr std::size_t kKeptCuts = 4;
 constexpr double kTwinFrom = 1.05; // below it the file itself has all the detail
+constexpr int kDrawingTwin = 2;    // size of the twin of a drawing
 constexpr double kHalfFrom =
     0.5; // smooth copies look at two pixels only: beyond it they'd skip some
 
@@ -35,6 +36,16 @@ QRectF scaled(const QRectF& box, double across, double down) {
     return {box.x() * across, box.y() * down, box.width() * across, box.height() * down};
 }
 
+// A drawing that can't be painted leaves a hole.
+QImage painted(const WmfDrawing& drawing, QSize size) {
+    QImage image = renderSprite(drawing, size);
+    if (image.isNull()) {
+        image = QImage(QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+    }
+    return image;
+}
+
 // Room for one more; the oldest goes.
 template <class Kept>
 void makeRoom(std::vector<Kept>& kept, std::size_t most) {
@@ -46,12 +57,19 @@ void makeRoom(std::vector<Kept>& kept, std::size_t most) {
 } // namespace
 
 DesktopPicture::DesktopPicture(QImage image, QString twin)
-    : image_(readyImage(image)), twinFile_(std::move(twin)) {}
+    : size_(image.size()), image_(readyImage(image)), twinFile_(std::move(twin)) {}
 
 std::shared_ptr<const DesktopPicture> DesktopPicture::withDetail(QImage image,
                                                                  const QImage& sharper) {
     auto picture = std::make_shared<DesktopPicture>(std::move(image));
     picture->twin_ = readyImage(sharper);
+    return picture;
+}
+
+std::shared_ptr<const DesktopPicture> DesktopPicture::fromDrawing(WmfDrawing drawing) {
+    auto picture = std::make_shared<DesktopPicture>(QImage());
+    picture->size_ = QSize(wholePx(drawing.size.width), wholePx(drawing.size.height));
+    picture->drawing_ = std::make_shared<const WmfDrawing>(std::move(drawing));
     return picture;
 }
 
@@ -63,13 +81,25 @@ QImage decodePicture(const std::string& bytes) {
     QBuffer buffer(&data);
     QImageReader reader(&buffer);
     const QSize size = reader.size();
-    if (size.width() > kLargestSide || size.height() > kLargestSide) {
+    if (size.width() > kLargestPictureSide || size.height() > kLargestPictureSide) {
         return {};
     }
     return reader.read();
 }
 
+const QImage& DesktopPicture::own() const {
+    if (image_.isNull() && drawing_ != nullptr) {
+        image_ = painted(*drawing_, size_);
+    }
+    return image_;
+}
+
 QImage DesktopPicture::loadTwin() const {
+    if (twin_.isNull() && drawing_ != nullptr) {
+        return painted(
+            *drawing_,
+            (kDrawingTwin * size_).boundedTo({kLargestPictureSide, kLargestPictureSide}));
+    }
     if (!twin_.isNull() || twinFile_.isEmpty()) {
         return twin_;
     }
@@ -86,7 +116,7 @@ QImage DesktopPicture::loadTwin() const {
 
 QImage DesktopPicture::source(double scale) const {
     const QImage twin = scale > kTwinFrom ? loadTwin() : QImage();
-    return twin.isNull() ? image_ : twin;
+    return twin.isNull() ? own() : twin;
 }
 
 const QImage& DesktopPicture::prepared(double scale) const {
@@ -101,11 +131,14 @@ const QImage& DesktopPicture::prepared(QSize size) const {
         return known->image;
     }
     makeRoom(prepared_, kKeptSizes);
-    prepared_.push_back({size, size == image_.size() ? image_ : inSize(size)});
+    prepared_.push_back({size, size == size_ ? own() : inSize(size)});
     return prepared_.back().image;
 }
 
 QImage DesktopPicture::inSize(QSize devicePixels) const {
+    if (drawing_ != nullptr) {
+        return painted(*drawing_, devicePixels);
+    }
     const double scale = static_cast<double>(devicePixels.width()) / std::max(1, width());
     return readyImage(
         source(scale).scaled(devicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
@@ -113,7 +146,7 @@ QImage DesktopPicture::inSize(QSize devicePixels) const {
 
 const QImage& DesktopPicture::half(std::size_t times) const {
     while (halves_.size() < times) {
-        const QImage& larger = halves_.empty() ? image_ : halves_.back();
+        const QImage& larger = halves_.empty() ? own() : halves_.back();
         const QSize size = (larger.size() / 2).expandedTo({1, 1});
         halves_.push_back(
             readyImage(larger.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
@@ -131,7 +164,7 @@ DesktopPicture::Detail DesktopPicture::detail(const QRectF& from, double scale) 
     }
     const QImage& image = scale > kTwinFrom && !twin_.isNull() ? twin_
                           : halvings > 0                       ? half(halvings)
-                                                               : image_;
+                                                               : own();
     return {image, scaled(from, static_cast<double>(image.width()) / width(),
                           static_cast<double>(image.height()) / height())};
 }
@@ -150,8 +183,9 @@ QImage DesktopPicture::makeCut(const QRectF& from, QSize size, RasterOp operatio
     case RasterOp::SrcCopy:
         break;
     }
-    return readyImage(best.image.copy(best.from.toAlignedRect())
-                          .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    const QRect part = best.from.toAlignedRect();
+    const QImage& cut = part == best.image.rect() ? best.image : best.image.copy(part);
+    return readyImage(cut.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 const QImage& DesktopPicture::cut(const QRectF& from, QSize devicePixels,

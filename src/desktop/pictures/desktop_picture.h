@@ -2,6 +2,7 @@
 // device pixels.
 #pragma once
 
+#include "desktop/files/wmf_drawing.h"
 #include "host/picture.h"
 #include "host/surface.h"
 
@@ -25,8 +26,11 @@ class DesktopPicture final : public Picture {
     // `sharper` is the same picture in more pixels.
     static std::shared_ptr<const DesktopPicture> withDetail(QImage image, const QImage& sharper);
 
-    int width() const override { return image_.width(); }
-    int height() const override { return image_.height(); }
+    // A picture in the natural size of the drawing, rounded to whole px.
+    static std::shared_ptr<const DesktopPicture> fromDrawing(WmfDrawing drawing);
+
+    int width() const override { return size_.width(); }
+    int height() const override { return size_.height(); }
     // Nothing shows through.
     bool opaque() const { return image_.format() == QImage::Format_RGB32; }
 
@@ -59,12 +63,16 @@ class DesktopPicture final : public Picture {
         RasterOp operation = RasterOp::SrcCopy;
         QImage image;
     };
+    // The picture in its own size; a drawing isn't painted before somebody asks.
+    const QImage& own() const;
     QImage loadTwin() const;
     QImage source(double scale) const;
     const QImage& half(std::size_t times) const;
     QImage makeCut(const QRectF& from, QSize size, RasterOp operation) const;
 
-    QImage image_;
+    QSize size_;
+    std::shared_ptr<const WmfDrawing> drawing_; // null for a picture of pixels
+    mutable QImage image_;
     mutable QString twinFile_; // emptied when the file turns out to be broken
     mutable QImage twin_;      // once it was needed for more than one copy
     mutable std::vector<QImage> halves_;

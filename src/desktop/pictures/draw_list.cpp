@@ -10,6 +10,9 @@ namespace quendal {
 
 namespace {
 
+// Looking for what a box hides is worth its while when it is at least this part of the surface.
+constexpr double kSmallestCover = 16;
+
 QRectF boxOf(Point a, Point b, double margin) {
     return QRectF(QPointF(std::min(a.x, b.x), std::min(a.y, b.y)),
                   QPointF(std::max(a.x, b.x), std::max(a.y, b.y)))
@@ -69,13 +72,39 @@ void DrawList::append(const DrawList& other, std::size_t index) {
 }
 
 void DrawList::append(const DrawList& other, const QRectF& whole) {
+    const bool frame = other.hidesAny(whole);
     for (std::size_t i = 0; i < other.size(); ++i) {
-        const QRectF covered = cover(other.commands_[i]);
-        if (!covered.isEmpty()) {
-            dropBeneath(covered, whole);
+        if (other.hides(i, whole)) {
+            dropBeneath(cover(other.commands_[i]), whole);
+        } else if (frame && other.commands_[i].kind == DrawCommand::Kind::Line) {
+            dropSameLine(other.commands_[i]);
         }
         append(other, i);
     }
+}
+
+// The outline of a box reaches beyond it, so that the box of the next frame doesn't cover it.
+void DrawList::dropSameLine(const DrawCommand& line) {
+    std::erase_if(commands_, [&](const DrawCommand& other) {
+        return other.kind == DrawCommand::Kind::Line && other.a == line.a && other.b == line.b &&
+               other.size == line.size && other.color == line.color;
+    });
+}
+
+bool DrawList::hides(std::size_t index, const QRectF& whole) const {
+    const QRectF box = cover(commands_[index]);
+    const bool large =
+        box.width() * box.height() * kSmallestCover >= whole.width() * whole.height();
+    return !box.isEmpty() && (commands_[index].kind != DrawCommand::Kind::Box || large);
+}
+
+bool DrawList::hidesAny(const QRectF& whole) const {
+    for (std::size_t i = 0; i < size(); ++i) {
+        if (hides(i, whole)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void DrawList::dropBeneath(const QRectF& box, const QRectF& whole) {
@@ -103,6 +132,9 @@ QRectF DrawList::cover(const DrawCommand& command) {
     }
     if (command.kind == DrawCommand::Kind::Stretch) {
         return boxOf(command.a, command.b, 0);
+    }
+    if (command.kind == DrawCommand::Kind::Box) {
+        return boxOf(command.a, command.b, 0).adjusted(0, 0, 1, 1);
     }
     // Its size in device pixels is rounded apart from its place, so that its far edges are certain
     // only where it begins at 0.

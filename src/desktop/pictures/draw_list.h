@@ -43,9 +43,12 @@ class DrawList {
     void add(const DrawCommand& command) { commands_.push_back(command); }
     void addPolygon(DrawCommand command, std::span<const Point> corners);
     void addText(DrawCommand command, std::string_view text, const FontSpec& font);
-    // What a picture of `other` covers wholly goes, so that whoever draws whole frames without
-    // clearing doesn't pile them up. `whole` is the surface.
+    // What a picture or a large box of `other` covers wholly goes, and with it lines that `other`
+    // draws again, so that whoever draws whole frames without clearing doesn't pile them up.
+    // `whole` is the surface.
     void append(const DrawList& other, const QRectF& whole);
+    // Appending this one may drop something.
+    bool hidesAny(const QRectF& whole) const;
 
     const std::vector<DrawCommand>& commands() const { return commands_; }
     std::span<const Point> corners(const DrawCommand& command) const;
@@ -61,10 +64,12 @@ class DrawList {
 
   private:
     bool same(std::size_t index, const DrawList& other) const;
-    // Place that an opaque picture fills for certain; empty for all else.
+    bool hides(std::size_t index, const QRectF& whole) const;
+    // Place that an opaque picture or a box fills for certain; empty for all else.
     static QRectF cover(const DrawCommand& command);
     void append(const DrawList& other, std::size_t index);
     void dropBeneath(const QRectF& box, const QRectF& whole);
+    void dropSameLine(const DrawCommand& line);
 
     std::vector<DrawCommand> commands_;
     std::vector<Point> points_;

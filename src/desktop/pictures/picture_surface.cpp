@@ -4,6 +4,7 @@
 #include "desktop/windows/look.h"
 #include "host/pictures.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
@@ -37,6 +38,13 @@ double PictureSurface::ScaleHeight() const {
     return surfaceScale(*owner_).height;
 }
 
+Size PictureSurface::TextSize(std::string_view text, const FontSpec& font) const {
+    const double scale = stretch_.smaller();
+    const QFontMetricsF metrics(look::font(font, scale));
+    const QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return {metrics.horizontalAdvance(shown) / scale, metrics.height() / scale};
+}
+
 void PictureSurface::Clear() {
     recording_.clear();
     cleared_ = true;
@@ -48,7 +56,8 @@ void PictureSurface::Line(Point from, Point to, Color color, double width) {
 }
 
 void PictureSurface::Box(Point from, Point to, Color color) {
-    recording_.add({.kind = DrawCommand::Kind::Box, .color = color, .a = from, .b = to});
+    recording_.add(
+        {.kind = DrawCommand::Kind::Box, .color = color, .a = from, .b = to, .opaque = true});
 }
 
 void PictureSurface::Circle(Point centre, double radius, Color outline) {
@@ -122,6 +131,10 @@ QRectF PictureSurface::finish() {
         changed = baked_.isNull() ? recording_.difference(shown_) : whole();
         std::swap(recording_, shown_);
         baked_ = QImage();
+    } else if (recording_.hidesAny(whole())) {
+        before_ = shown_;
+        shown_.append(recording_, whole());
+        changed = shown_.difference(before_);
     } else {
         changed = recording_.bounds();
         shown_.append(recording_, whole());

@@ -19,6 +19,7 @@ class PictureSurface final : public Surface {
 
     double ScaleWidth() const override;
     double ScaleHeight() const override;
+    Size TextSize(std::string_view text, const FontSpec& font) const override;
     void Clear() override;
     void Line(Point from, Point to, Color color, double width) override;
     void Box(Point from, Point to, Color color) override;
@@ -57,6 +58,7 @@ class PictureSurface final : public Surface {
     const PictureBox* owner_;
     DrawList recording_;
     DrawList shown_;
+    DrawList before_; // what shown_ was, for as long as both are compared
     QImage image_;
     QImage baked_; // what was drawn before shown_, when that grew too long
     Backdrop backdrop_;

@@ -27,8 +27,9 @@ std::unique_ptr<WidgetPeer> makePeer(Control& control, FormWindow& window) {
     case ControlKind::StatusBar:
         return makeStatusBarPeer(static_cast<ctl_StatusBar&>(control), window);
     case ControlKind::Separator:
-    case ControlKind::Line:
         return makeRulePeer(control, window);
+    case ControlKind::Line:
+        return makeLinePeer(static_cast<Line&>(control), window);
     case ControlKind::TermLabel:
         return makeTermLabelPeer(static_cast<ctl_TermLabel&>(control), window);
     case ControlKind::TermInput:

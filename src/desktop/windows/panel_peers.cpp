@@ -201,8 +201,7 @@ class RulePeer final : public PaintedPeer {
 
     void paint(QPainter& painter, const QRectF& box) override {
         const double line = thin(scale());
-        const QColor colour =
-            control()->kind() == ControlKind::Line ? look::kStrongBorder : look::kBorder;
+        const QColor colour = look::kBorder;
         if (box.width() >= box.height()) {
             const double top = std::floor((box.height() - line) / 2);
             painter.fillRect(QRectF(0, std::max(0.0, top), box.width(), line), colour);
@@ -213,8 +212,31 @@ class RulePeer final : public PaintedPeer {
     }
 };
 
+class LinePeer final : public PaintedPeer {
+  public:
+    LinePeer(Line& line, FormWindow& window) : PaintedPeer(line, window), line_(line) {}
+
+    void paint(QPainter& painter, const QRectF& /*box*/) override {
+        const double s = scale();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(look::toQColor(line_.textColor()), line_.thickness() * s, Qt::SolidLine,
+                            Qt::RoundCap));
+        painter.drawLine(onWidget(line_.from()) * s, onWidget(line_.to()) * s);
+    }
+
+  private:
+    QPointF onWidget(Point point) const {
+        return {point.x - line_.place().left, point.y - line_.place().top};
+    }
+
+    Line& line_;
+};
+
 } // namespace
 
+PeerPtr makeLinePeer(Line& line, FormWindow& window) {
+    return std::make_unique<LinePeer>(line, window);
+}
 PeerPtr makePanelPeer(ctl_Pannel& panel, FormWindow& window) {
     return std::make_unique<PanelPeer>(panel, window);
 }

@@ -43,7 +43,8 @@ PeerPtr makeFramePeer(ctl_Frame& frame, FormWindow& window);
 PeerPtr makeTitlePeer(ctl_Title& title, FormWindow& window);
 PeerPtr makeHeaderPeer(ctl_Header& header, FormWindow& window);
 PeerPtr makeStatusBarPeer(ctl_StatusBar& bar, FormWindow& window);
-PeerPtr makeRulePeer(Control& rule, FormWindow& window); // separators and lines
+PeerPtr makeRulePeer(Control& rule, FormWindow& window);
+PeerPtr makeLinePeer(Line& line, FormWindow& window);
 PeerPtr makeDrAtomPeer(ctl_DrAtom& atom, FormWindow& window);
 PeerPtr makePicturePeer(PictureBox& picture, FormWindow& window);
 
