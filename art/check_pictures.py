@@ -17,6 +17,21 @@ START_SIZE = (720, 440)
 START_PICTURES = ("silver_start", "conducto_start", "conducto_weak_start", "conducto_silver_start")
 
 
+# The sprites of the reaction scenes; a formula picture has an underscore before its name.
+PROTON_FOLDERS = {
+    "h2o-hcl": "h2o hcl h2ohcl h3o cl",
+    "h2o-h2o": "h2o h2o2 h2oh2o h3o oh",
+    "h2o-hac": "h2o hac h2ohac h3o ac",
+}
+ION_FOLDERS = {"h3o-cl": "wanne4 h3o cl oh na h2o h2o-2", "fällung": "wanne cl na ag no3"}
+BASIN_SIZE = (724, 438)
+LARGEST_SPRITE = 40_000  # bytes
+WATER_SIZE, WATER_PICTURES = (480, 470), 6
+CIRCUITS, CIRCUIT_SIZE = "aus ein einup ws1 ws2", (740, 450)
+MARKS = {"bedingungen": (152, 172), "grün1": (12, 12), "grün2": (18, 18), "grün3": (18, 18)}
+UNITS, INCH = 15, 1440  # of a sprite: units to the px, units to the inch
+
+
 def size_of(data):
     return int.from_bytes(data[6:8], "little"), int.from_bytes(data[8:10], "little")
 
@@ -126,6 +141,52 @@ def check_starts(folder):
         seen.append(colours)
 
 
+def sprite_size(path):
+    """The size in px of a placeable metafile, whose first shape clears all of it to the key colour."""
+    data = path.read_bytes()
+    head = [int.from_bytes(data[i:i + 2], "little") for i in range(0, 22, 2)]
+    check = 0
+    for word in head[:10]:
+        check ^= word
+    assert head[:2] == [0xCDD7, 0x9AC6] and head[3:5] == [0, 0], f"{path}: isn't placeable from (0, 0)"
+    assert head[7] == INCH and check == head[10], f"{path}: wrong head"
+    brush = data.index((0x02FC).to_bytes(2, "little") + b"\0\0\xff\0\xff\0")
+    box = data.index((0x041B).to_bytes(2, "little"), brush)
+    window = data.index((0x020C).to_bytes(2, "little"))
+    assert data[box + 2:box + 6] == data[window + 2:window + 6], f"{path}: isn't cleared"
+    assert box - brush < 30, f"{path}: isn't cleared first"
+    return head[5] / UNITS, head[6] / UNITS
+
+
+def check_reactions(folder):
+    names = {f: f"wanne {n} _{n.replace(' ', ' _')}" for f, n in PROTON_FOLDERS.items()} | ION_FOLDERS
+    for name, expected in names.items():
+        files = {p.stem: p for p in (folder / name).glob("*.wmf")}
+        assert files.keys() == set(expected.split()), f"{name}: {sorted(files)}"
+        for stem, path in files.items():
+            width, height = sprite_size(path)
+            assert path.stat().st_size < LARGEST_SPRITE, f"{path}: too large"
+            assert ((width, height) == BASIN_SIZE) == stem.startswith("wanne"), path
+            assert stem.startswith("wanne") or (width < 400 and height < 300), path
+
+
+def check_lessons(folder):
+    """The pictures that zoom into each other, and the circuit in its five states with the board and its marks."""
+    water = sorted((folder / "phn").glob("f*.gif"))
+    assert [p.stem for p in water] == [f"f{i}" for i in range(1, WATER_PICTURES + 1)], water
+    for path in water:
+        width, height, colours, clear = pixels(path)
+        assert (width, height) == WATER_SIZE and not any(clear), path
+        if path.stem != f"f{WATER_PICTURES}":
+            assert any(r > 180 and g < 90 and b < 90 for r, g, b in set(colours)), f"{path}: has no red ion"
+    check_twins(folder / "phn")
+    sizes = dict.fromkeys(CIRCUITS.split(), CIRCUIT_SIZE) | MARKS
+    assert {p.stem for p in (folder / "ionen").glob("*.wmf")} == sizes.keys(), "other sprites in ionen"
+    for stem, size in sizes.items():
+        path = folder / "ionen" / f"{stem}.wmf"
+        assert sprite_size(path) == size and path.stat().st_size < LARGEST_SPRITE, path
+
+
 def main(arguments):
     if len(arguments) != 2:
         print("usage: check_pictures.py DATA_FOLDER", file=sys.stderr)
@@ -137,6 +198,8 @@ def main(arguments):
         check_lens(folder / "x3", 3)
         check_slide(folder)
         check_starts(folder)
+        check_reactions(folder)
+        check_lessons(folder)
     except AssertionError as error:
         print(f"wrong: {error}", file=sys.stderr)
         return 1

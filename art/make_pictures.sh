@@ -96,3 +96,26 @@ for file in win win_small bad; do both_sizes "$work/$file.svg" white; done
 echo "Program icon"
 rsvg-convert --width 256 --height 256 --format png --output "$data/icons/quendal.png" "$icons/quendal.svg"
 echo "  quendal.png"
+
+echo "Learning animations: reactions"
+python3 "$art/reaction_sprites.py" "$data"
+
+echo "Learning animations: powers of ten"
+python3 "$art/powers_of_ten.py" "$work"
+mkdir -p "$data/phn/x3"
+for file in "$work"/f[1-6].svg; do
+    name=$(basename "$file" .svg)
+    # Many small dots pack badly; those of one size need few colours.
+    colours=96
+    if [ "$name" = f5 ]; then colours=16; fi
+    for zoom in 1 3; do
+        folder=$data/phn
+        if [ $zoom = 3 ]; then folder=$data/phn/x3; fi
+        render "$file" $zoom "$work/picture.png"
+        convert "$work/picture.png" -alpha off +dither -colors $colours -strip "$folder/$name.gif"
+    done
+    echo "  phn/$name.gif"
+done
+
+echo "Learning animations: ions"
+python3 "$art/ion_sprites.py" "$data/ionen"

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# The help texts and the sounds in data/ are byte for byte what their sources in art/ make, and the
+# The help texts, sounds and sprites in data/ are byte for byte what their sources in art/ make, and the
 # numbers in the help texts are right. The pictures keep what the program relies on, and show what their
 # sources draw. Usage: made_from_sources.sh SOURCE_TREE
 set -euo pipefail
 cd "$1"
+export PYTHONDONTWRITEBYTECODE=1
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
@@ -22,14 +23,21 @@ done
 
 python3 art/check_pictures.py data
 
+python3 art/reaction_sprites.py "$folder/sprites" >/dev/null
+python3 art/ion_sprites.py "$folder/sprites/ionen" >/dev/null
+diff <(cd data && find . -name '*.wmf' | sort) <(cd "$folder/sprites" && find . -name '*.wmf' | sort)
+for sprite in data/*/*.wmf; do
+    cmp "$sprite" "$folder/sprites/${sprite#data/}"
+done
+
 for tool in rsvg-convert convert compare; do
     command -v "$tool" >/dev/null || { echo "Pictures aren't drawn again: $tool is missing"; exit 0; }
 done
 mkdir "$folder/pictures"
 art/make_pictures.sh "$folder/pictures" >/dev/null
-diff <(cd data && ls ./*.gif x3) <(cd "$folder/pictures" && ls ./*.gif x3)
+diff <(cd data && ls ./*.gif x3 phn phn/x3) <(cd "$folder/pictures" && ls ./*.gif x3 phn phn/x3)
 # Another release of the tools may round a colour differently; a picture of another source differs by far more.
-for picture in data/*.gif data/x3/*.gif data/icons/*.png; do
+for picture in data/*.gif data/x3/*.gif data/phn/*.gif data/phn/x3/*.gif data/icons/*.png; do
     again=$folder/pictures/${picture#data/}
     cmp -s "$picture" "$again" && continue
     differing=$(compare -metric AE -fuzz 12% "$picture" "$again" null: 2>&1 || true)
