@@ -84,9 +84,9 @@ PointValues ConductoGuidance::referenceValues() {
     return form_.hCalcPoint();
 }
 
-// Litres are held against mL here, so that only a repeat at 0 mL counts as shown: meant.
+// Only a repeat at 0 mL counts as shown: meant.
 bool ConductoGuidance::shownBefore() const {
-    return form_.titrantVolume() == form_.vLastVol;
+    return form_.titrantMl() == 0 && form_.vLastVol == 0;
 }
 
 bool ConductoGuidance::waysChangeHere() const {

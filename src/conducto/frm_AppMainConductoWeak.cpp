@@ -26,8 +26,8 @@ const ConductoVariant& weakVariant() {
                   .directHidesControls = true,
                   .countsDirectHelp = true,
                   .compareButton = kConductivityButton,
-                  .volumeNames = {" VµV(Essigsäure)  = ", "VµZ(Natronlauge) =", "cµV(HAc) =",
-                                  "cµZ(NaOH) = 1 mol/L"},
+                  .volumeNames = {" VµV(Essigsäure)  = ", "VµZ(Natronlauge) =", "cµV(S) =",
+                                  "cµZ(OH-) = 1 mol/L"},
                   .task = {.sampleBefore =
                                "Klicke auf die            Pipette, um 10 mL Esigsäure  mit (c = ",
                            .sampleAfter = kDilutedSampleAfter,

@@ -13,7 +13,7 @@ WorkbenchVariant dilutedStrongAcid() {
         .readingDigits = {.direct = 2},
         .directHidesControls = true,
         .countsDirectHelp = true,
-        .volumeNames = {"VµV(HCl)     = ", "VµZ(NaOH) =", "cµV(HCl) =", "cµZ(NaOH) = 1 mol/L"},
+        .volumeNames = {"VµV(S)     = ", "VµZ(OH-) =", "cµV(S) =", "cµZ(OH-) = 1 mol/L"},
         .task = {.sampleBefore = "Klicke auf die            Pipette, um 10 mL Salzsäure  mit (c = ",
                  .sampleAfter = kDilutedSampleAfter,
                  .reagent = kBaseLine,

@@ -80,6 +80,10 @@ constexpr TextCase kStrongTexts[] = {
      "verändert. Sieh Dir Dein Ergebnis an, indem Du unten auf \"Leitwert-Kurve anzeigen\" "
      "klickst."},
     {"frm_Bilanz", kAlone, "Aktuelle Stoffmengenbilanz"},
+    {"lab_VolLabel", 0, "VµV(S)     = "},
+    {"lab_VolLabel", 1, "VµZ(OH-) ="},
+    {"lab_VolLabel", 2, "cµV(S) ="},
+    {"lab_VolLabel", 3, "cµZ(OH-) = 1 mol/L"},
     {"lab_Vol", 2, "1.2 mol/L"},
 };
 
@@ -104,6 +108,8 @@ constexpr TextCase kWeakTexts[] = {
     {"frm_Bilanz", kAlone, "Aktuelle Stoffmengenbilanz"},
     {"lab_VolLabel", 0, " VµV(Essigsäure)  = "},
     {"lab_VolLabel", 1, "VµZ(Natronlauge) ="},
+    {"lab_VolLabel", 2, "cµV(S) ="},
+    {"lab_VolLabel", 3, "cµZ(OH-) = 1 mol/L"},
     {"lab_Vol", 2, "1.2 mol/L"},
 };
 

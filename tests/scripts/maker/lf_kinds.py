@@ -96,7 +96,7 @@ STRONG = LfKind(
     compare_button="Leitwert-Kurve anzeigen",
     sample="Salzsäure",
     reagent="Natronlauge",
-    volumes=("VµV(HCl)     = ", "VµZ(NaOH) ="),
+    volumes=("VµV(S)     = ", "VµZ(OH-) ="),
     rule="V(gesamt) = VµV(HCl) + VµZ(NaOH)",
     rows=(
         Row("G(H3O+) = ", "H3O+", "349,8"),
@@ -191,7 +191,7 @@ LOG = LfKind(
     compare_button="log(c)-Kurve anzeigen",
     sample="Salzsäure",
     reagent="Natronlauge",
-    volumes=("VµV(HCl)     = ", "VµZ(NaOH) ="),
+    volumes=("VµV(S)     = ", "VµZ(OH-) ="),
     rule="V(gesamt) = VµV(HCl) + VµZ(NaOH)",
     rows=(
         Row("c(H3O+) = ", "H3O+"),
