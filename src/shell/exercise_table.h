@@ -9,16 +9,12 @@ namespace quendal {
 
 enum class StartTab { Introduction = 0, Animations = 1, Demos = 2, Tasks = 3 };
 
-// Later: the form behind the button isn't there yet, and the learner is told so.
-enum class Availability { Ready, Later };
-
 struct ExerciseRow {
     StartTab tab;
     ctl_Button frm_DialogStartup::*button;
     const char* caption;
     int number; // scene of an animation, else the result code
     int key;    // value of the tab's mode key for which the button stays visible
-    Availability availability;
     int column; // place on the tab
     int row;
 };

@@ -1,5 +1,6 @@
 #include "shell/frm_DialogStartup.h"
 
+#include "animations/frm_AppIntro.h"
 #include "host/host_control.h"
 #include "host/message_box.h"
 #include "host/number_service.h"
@@ -61,6 +62,7 @@ void logUncounted(const char* key, const std::string& text) {
 frm_DialogStartup::frm_DialogStartup() : Form("frm_DialogStartup", {960, 600}) {
     design();
     SSTab1.onClick = [this] { SSTab1_Click(); };
+    tmr_Movie.onTimer = [this] { tmr_Movie_Timer(); };
     for (const ExerciseRow& row : exerciseTable()) {
         (this->*row.button).onClick = [this, &row] { open(row); };
     }
@@ -78,6 +80,8 @@ void frm_DialogStartup::Form_Load() {
     MovieGridColor = {220, 220, 220};
     lst_Mol.setListIndex(kPreset);
     Label5.setText(kWelcome);
+    drawMovie(); // the first beat is still to come
+    tmr_Movie.setEnabled(true);
 }
 
 void frm_DialogStartup::Form_Activate() {
@@ -96,8 +100,10 @@ void frm_DialogStartup::Form_Activate() {
 }
 
 void frm_DialogStartup::open(const ExerciseRow& row) {
-    if (row.availability == Availability::Later) {
-        CoreLib().MessageBox.Ok("Dieser Teil folgt.", "");
+    if (row.tab == StartTab::Animations) {
+        frm_AppIntro animation;
+        animation.Scene = row.number;
+        CoreLib().Windows.ShowModal(animation); // and back to this dialog
         return;
     }
     session().SessionDemo = row.tab == StartTab::Demos;
@@ -227,6 +233,8 @@ void frm_DialogStartup::describe(FieldTable& table) const {
     table.add("ForcedTab", ForcedTab);
     table.add("TabLocked", TabLocked);
     table.add("Activated", Activated);
+    table.add("MovieScene", MovieScene);
+    table.add("MovieTime", MovieTime);
     table.add("MovieGridColor", MovieGridColor);
 }
 

@@ -28,6 +28,8 @@ class frm_DialogStartup final : public Form {
     std::int16_t ForcedTab = 0;        // tab that the teacher fixed
     bool TabLocked = false;            // ForcedTab can't be left
     bool Activated = false;            // the teacher's keys have been read
+    std::int32_t MovieScene = 0;       // 0 before the first reset, then 1 to 6
+    double MovieTime = 0;              // in the scene, 0 to 20
     Color MovieGridColor;              // grid lines of the movie
 
     ctl_Header ctl_Header1{*this, "ctl_Header1"};
@@ -36,8 +38,8 @@ class frm_DialogStartup final : public Form {
     ctl_Label Label2{*this, "Label2"};
     TabControl SSTab1{*this, "SSTab1"};
 
-    ctl_Label Label5{*this, "Label5"};      // welcome
-    ctl_DrAtom dra_Atom{*this, "dra_Atom"}; // keeps the movie's place
+    ctl_Label Label5{*this, "Label5"}; // welcome
+    ctl_DrAtom dra_Atom{*this, "dra_Atom"};
     ctl_Frame ctl_Frame1{*this, "ctl_Frame1"};
     ControlArray<PictureBox> pic_Movie{*this, "pic_Movie", 0, 0};
 
@@ -91,6 +93,8 @@ class frm_DialogStartup final : public Form {
 
     void open(const ExerciseRow& row);
     void SSTab1_Click();
+    void tmr_Movie_Timer();
+    void drawMovie();
 
     void askName();
     void obeyMode();

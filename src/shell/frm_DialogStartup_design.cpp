@@ -14,6 +14,7 @@ constexpr double kWidth = 960;
 constexpr double kMargin = kDialogMargin;
 constexpr double kHeaderHeight = 96;
 constexpr Rect kWelcomePanel{kMargin, 104, kWidth - 2 * kMargin, 72};
+constexpr Rect kMascot{kWelcomePanel.width - kMargin - 68, 2, 68, 68}; // on the panel
 constexpr Rect kTabs{kMargin, 184, kWidth - 2 * kMargin, 336};
 constexpr double kInset = 24; // from the edge of the tab control to what stands on it
 constexpr double kColumn = 432;
@@ -55,29 +56,32 @@ void frm_DialogStartup::designHead() {
         CoreLib().Graphics.LoadPicture(HostApp().PathService.DataPath() + "header.gif"));
     arrange(ctl_Pannel1, kWelcomePanel);
     Label1.setText("Willkommen zu Quendal!");
-    arrange(Label1, ctl_Pannel1, {kMargin, 10, kWelcomePanel.width - 2 * kMargin, 24},
-            kHeadingFont);
+    const double textWidth = kMascot.left - 2 * kMargin;
+    arrange(Label1, ctl_Pannel1, {kMargin, 10, textWidth, 24}, kHeadingFont);
     Label2.setText("Wenn Du neu hier bist solltest Du Dir zuerst die Lernanimationen ansehen! "
                    "Anschließend wählst Du eine Titrationsart!");
-    arrange(Label2, ctl_Pannel1, {kMargin, 38, kWelcomePanel.width - 2 * kMargin, 24});
+    arrange(Label2, ctl_Pannel1, {kMargin, 38, textWidth, 24});
+    arrange(dra_Atom, ctl_Pannel1, kMascot);
+    dra_Atom.setMood(2);
+    dra_Atom.setAccessibleName("Doktor Atom, das Maskottchen");
     SSTab1.setCaptions({"&Kurze Einführung    ", "&Lernanimationen   ", "Klick- &Demos         ",
                         "&Selbst rechnen          "});
     SSTab1.setAccessibleName("Was möchtest Du tun?");
     arrange(SSTab1, kTabs, {.family = "Tahoma", .size = 14});
 }
 
+// The movie needs a width of 505 for its formulas in words, so the text stands close to the edge.
 void frm_DialogStartup::designIntroduction() {
-    constexpr double kHeight = 272;
+    constexpr double kTop = 56;
+    constexpr Size kMovie{505, 201}; // 63 by 25 meshes of its grid and the line that closes them
+    constexpr double kPassepartout = 4;
+    constexpr Size kFrame{kMovie.width + 2 * kPassepartout, kMovie.height + 2 * kPassepartout};
     Label5.setContainer(SSTab1, pageOf(StartTab::Introduction));
-    arrange(Label5, {kInset, 56, 496, kHeight});
-    dra_Atom.setContainer(SSTab1, pageOf(StartTab::Introduction));
-    arrange(dra_Atom, {600, 80, 240, 240});
-    dra_Atom.setMood(2);
-    dra_Atom.setAccessibleName("Doktor Atom, das Maskottchen");
+    arrange(Label5, {kMargin, kTop, 376, 265}, {.size = 13});
     ctl_Frame1.setContainer(SSTab1, pageOf(StartTab::Introduction));
-    arrange(ctl_Frame1, {544, 56, 360, kHeight});
-    ctl_Frame1.setVisible(false); // it waits for the movie that plays in it
-    arrange(pic_Movie(0), ctl_Frame1, {8, 40, 344, kHeight - 48});
+    constexpr double kFrameTop = kTop + 24; // beside the middle of the text
+    arrange(ctl_Frame1, {400, kFrameTop, kFrame.width, kFrame.height});
+    arrange(pic_Movie(0), ctl_Frame1, {kPassepartout, kPassepartout, kMovie.width, kMovie.height});
     pic_Movie(0).setAccessibleName("Film: Stoffmenge, Konzentration und Volumen");
 }
 

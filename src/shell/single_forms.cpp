@@ -1,5 +1,6 @@
 #include "shell/single_forms.h"
 
+#include "animations/frm_AppIntro.h"
 #include "particles/frm_AppMagnify.h"
 
 #include <algorithm>
@@ -21,6 +22,10 @@ constexpr SingleFormField kLensFields[] = {
     {"SourceScale", takeText<Lens, &Lens::SourceScale>},
 };
 
+constexpr SingleFormField kStageFields[] = {
+    {"Scene", takeText<frm_AppIntro, &frm_AppIntro::Scene>},
+};
+
 template <class T>
 std::unique_ptr<Form> make() {
     return std::make_unique<T>();
@@ -28,6 +33,7 @@ std::unique_ptr<Form> make() {
 
 constexpr SingleForm kForms[] = {
     {"frm_AppMagnify", make<Lens>, kLensFields},
+    {"frm_AppIntro", make<frm_AppIntro>, kStageFields},
 };
 
 template <class T>

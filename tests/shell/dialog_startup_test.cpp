@@ -1,5 +1,6 @@
 #include "shell/frm_DialogStartup.h"
 
+#include "animations/frm_AppIntro.h"
 #include "shell/exercise_table.h"
 #include "shell_fixture.h"
 
@@ -336,23 +337,33 @@ TEST_F(DialogStartup, SwitchesItsTimerOff) {
     EXPECT_FALSE(dialog.tmr_Startup.enabled());
 }
 
-TEST_F(DialogStartup, TellsWhatFollowsLaterAndStaysOpen) {
-    show([this](frm_DialogStartup& dialog) {
+TEST_F(DialogStartup, PlaysAnAnimationOnTopAndStaysOpen) {
+    frm_DialogStartup dialog;
+    std::vector<std::int32_t> scenes;
+    // The dialog's timer has no work of its own. One scene asks before it goes.
+    dialog.tmr_Startup.onTimer = [&] {
+        if (auto* stage = dynamic_cast<frm_AppIntro*>(host.windows.top())) {
+            scenes.push_back(stage->Scene);
+            stage->userKey(Key::Escape);
+        }
+    };
+    later([&] {
+        dialog.tmr_Startup.setEnabled(true);
         for (const ExerciseRow& row : exerciseTable()) {
-            if (row.availability == Availability::Later) {
-                host.boxes.shown.clear();
+            if (row.tab == StartTab::Animations) {
+                scenes.clear();
                 dialog.SSTab1.userChose(static_cast<int>(row.tab));
                 (dialog.*row.button).userClicked();
-                ASSERT_EQ(host.boxes.shown.size(), 1U) << row.caption;
-                EXPECT_EQ(host.boxes.shown[0].text, "Dieser Teil folgt.");
-                EXPECT_EQ(host.boxes.shown[0].title, "");
-                EXPECT_TRUE(dialog.shown());
-                EXPECT_EQ(dialog.Result, 3);
+                ASSERT_FALSE(scenes.empty()) << row.caption;
+                EXPECT_EQ(scenes.front(), row.number);
+                EXPECT_EQ(host.windows.top(), &dialog);
+                EXPECT_EQ(dialog.Result, frm_DialogStartup::kEndProgram);
             }
         }
-        EXPECT_FALSE(session().SessionDemo);
+        host.windows.userClosed(dialog);
     });
-    EXPECT_EQ(result, 3);
+    host.windows.ShowModal(dialog);
+    EXPECT_FALSE(session().SessionDemo);
 }
 
 TEST_F(DialogStartup, HasAButtonForEachKeyOfATab) {
