@@ -238,6 +238,24 @@ TEST(Sprite, TextsKeepTheirProportionsAtAnySize) {
     }
 }
 
+// Arial's average letter is 904 of 2048 parts of its size wide, 9 px at 20 px.
+TEST(Sprite, LettersAreAsWideAsTheFontAsks) {
+    const auto ink = [](int letterWidth) {
+        WmfWriter writer(400, 100);
+        writer.font({.height = -20, .width = letterWidth});
+        writer.groundMode(1);
+        writer.text({0, 5}, "Wasserstoffion");
+        return inkOf(renderSprite(drawingOf(writer), {400, 100}));
+    };
+    const QRect usual = ink(0);
+    EXPECT_NEAR(ink(9).right(), usual.right() * 9 / 8.83, 2);
+    EXPECT_NEAR(ink(6).right(), usual.right() * 6 / 8.83, 2);
+    EXPECT_NEAR(ink(18).right(), usual.right() * 18 / 8.83, 3);
+    EXPECT_NEAR(ink(-6).right(), ink(6).right(), 1);
+    EXPECT_EQ(ink(6).height(), usual.height());
+    EXPECT_LT(ink(30000).left(), 400); // held within what can be read
+}
+
 TEST(Sprite, TextsHaveTheirGroundAndAdvances) {
     Drawn drawn;
     drawn.writer.font({.height = -20});

@@ -33,6 +33,7 @@ class WmfWriter {
         int tenths = 0; // of a degree
         std::string family = "Arial";
         int charset = 0;
+        int width = 0; // of an average letter; 0: as the font has it
     };
 
     WmfWriter(int width, int height, int unitsPerInch = 96)
@@ -67,9 +68,9 @@ class WmfWriter {
     void font(const Font& font) {
         std::string face = font.family + '\0';
         face.resize(face.size() + face.size() % 2, '\0');
-        create(0x02FB, word16(font.height) + word16(0) + word16(font.tenths) + word16(font.tenths) +
-                           word16(font.weight) + byte(font.italic) + byte(0) + byte(0) +
-                           byte(font.charset) + word32(0) + face);
+        create(0x02FB, word16(font.height) + word16(font.width) + word16(font.tenths) +
+                           word16(font.tenths) + word16(font.weight) + byte(font.italic) + byte(0) +
+                           byte(0) + byte(font.charset) + word32(0) + face);
     }
     void select(int object) { record(0x012D, {object}); }
     void remove(int object) { record(0x01F0, {object}); }
