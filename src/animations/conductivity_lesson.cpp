@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kStepTime = 0.05; // s; the ions move when more than that has passed
 constexpr double kTick = 1e-6;     // s, of the clock
-constexpr double kSlice = 0.0125;  // s, longest rest between two looks for clicks
+constexpr double kSlice = 0.0126;  // s, longest rest between two looks for clicks; four to a step
 constexpr int kLead = 10;          // steps that one phase may be ahead of the other
 constexpr double kPi = 3.14159;    // all that the needle needs
 
@@ -66,6 +66,9 @@ constexpr KeyPlace kKeys[] = {
 // The circuit with its switch, by the mode of the current.
 constexpr const char* kCircuits[] = {"ionen\\aus", "ionen\\ein", "ionen\\einup", "ionen\\ws1",
                                      "ionen\\ws2"};
+// The same for a screen reader.
+constexpr const char* kSettings[] = {"aus", "Gleichstrom", "Gleichstrom umgepolt", "Wechselstrom",
+                                     "Wechselstrom"};
 constexpr Point kCircuitPlace{400, 280};
 constexpr const char* kBoard = "ionen\\bedingungen";
 constexpr Point kBoardPlace{700, 150};
@@ -259,6 +262,8 @@ void ConductivityLesson::apply(Press press) {
 // From back to front: the board covers part of the circuit, and the marks lie on the board.
 void ConductivityLesson::showCircuit() {
     newPicture_ = false;
+    stage_.say(std::string(kSettings[static_cast<std::size_t>(ions_.Mode)]) + ", " +
+               std::to_string(ions_.IonCount) + " Ionen");
     for (const char* circuit : kCircuits) {
         stage_.hSpriteOff(circuit);
     }

@@ -24,8 +24,8 @@
 
 namespace quendal {
 
-// Where a text stands: its column left, centred or right of the place, its row centred on it, below
-// or above. The numbers are those of the scripts' tables; three of them mean the same as others.
+// Where a text stands: its column begins, is centred or ends at the place, its row is centred on
+// it, below or above. The last of each four is a second name for the first and left out.
 enum class Anchor {
     Left = 0,
     Centre = 1,
@@ -82,12 +82,13 @@ class frm_AppIntro final : public Form {
     // Which script runs, set before the form is shown: 0 logarithm lesson, 1 HCl in water,
     // 3 autoprotolysis, 4 weak acid, 5 neutralisation, 6 precipitation, 7 conductivity lesson.
     std::int32_t Scene = 0;
-    bool ShowPanel = false;  // hRender draws the panel first
-    bool Clicked = false;    // a left button went down since the flag was last cleared
-    std::int32_t ClickX = 0; // where, in design coordinates
-    std::int32_t ClickY = 0; //
-    bool Aborted = false;    // ESC, another button, the window closed: every script must leave
-    KeyList SpriteList;      // the sprites on the stage, by their index, in drawing order
+    bool ShowPanel = false; // hRender draws the panel first
+    bool Clicked = false;   // a left button went down since the flag was last cleared
+    // Where, in design coordinates; -1 for a key that stands for no place.
+    std::int32_t ClickX = 0;
+    std::int32_t ClickY = 0;
+    bool Aborted = false; // ESC, another button, the window closed: every script must leave
+    KeyList SpriteList;   // the sprites on the stage, by their index, in drawing order
     std::vector<Sprite> Sprites{1}; // counted from 1; the first is never used
     class RichText RichText;        // paints rich text for hPrint
     // The last rich text with its rectangle in pixels, painted anew with every hRender.
@@ -134,6 +135,7 @@ class frm_AppIntro final : public Form {
     void hLine(double x1, double y1, double x2, double y2, Color color);
     void hBox(double x1, double y1, double x2, double y2, Color color,
               std::optional<Color> fill = std::nullopt);
+    void hBox(const Rect& box, Color color, Color fill);
     // The outline of a box alone.
     void hFrame(double x1, double y1, double x2, double y2, Color color);
     // Stretches the whole picture into the rectangle; null draws nothing.
@@ -162,13 +164,16 @@ class frm_AppIntro final : public Form {
 
     // What the scripts are written with, on top of the primitives.
 
-    // The stage black, without what was printed on it. Sprites stay on their list.
+    // The stage black, without what was printed on it. Sprites stay on their list and LastText
+    // stays what it is, so that the next hRender draws both again.
     void clearStage();
-    // The heading, at the height of 24; a screen reader says it with what follows.
+    // The heading, at the height of 24, `size` in points. A screen reader says it, and behind it
+    // the last rich text or what `say` told.
     void title(double x, const std::string& text, double size, Anchor anchor);
+    void say(std::string text) { said_ = std::move(text); }
     // The footer with a text.
     void footer(const std::string& text);
-    // A line in the middle of the panel's foot, in tags.
+    // A line in the middle of the panel's foot, in tags; `size` in points, -1 as for hPrint.
     void caption(const std::string& text, double size = -1);
     // Calls `frame` again and again, the last time with all done, each time followed by hRender.
     // False when the learner broke off.
@@ -178,12 +183,13 @@ class frm_AppIntro final : public Form {
     // Without effect when sounds are off or the learner has broken off. `file` is a name in the
     // data folder.
     void playSound(const char* file) const;
-    // Lets time pass until the next frame is due.
+    // Lets so many seconds pass without letting events in, a thousandth at least: on a clock of its
+    // own time only passes by resting.
     void rest(double seconds) const;
     // The button to the lens over the footer; it goes when the script ends.
     void showLensButton(Equilibrium kind);
-    // Keys that stand for clicks, until others are set. Any other key that writes is a click at
-    // no place.
+    // Keys that stand for clicks, until others are set; the rows must live as long. Any other key
+    // that writes is a click at no place.
     void setKeys(std::span<const KeyPlace> keys) { keys_ = keys; }
     // Waits with events until Clicked or Aborted.
     void waitForClick();
@@ -210,6 +216,9 @@ class frm_AppIntro final : public Form {
     void runZoom(const Zoom& zoom, Progress (*direction)(const Progress&));
     void drawZoom(const Zoom& zoom, const Progress& at);
 
+    PicturePtr powerOfTen(int number);
+
+    void logOnce(const std::string& key, const std::string& line);
     int findSprite(const std::string& name);
     void loadSprite(Sprite& sprite);
     const Sprite* spriteAt(int position) const;
@@ -219,9 +228,11 @@ class frm_AppIntro final : public Form {
     void describeIons(FieldTable& table) const;
 
     Color foreColor_ = kWhite;
-    std::int64_t frames_ = 0;       // that hRender has drawn
-    std::string title_;             // of the scene
-    std::set<std::string> missing_; // names that were logged
+    std::int64_t frames_ = 0; // that hRender has drawn
+    std::string title_;       // of the scene
+    std::string footer_;
+    std::string said_;              // for a screen reader, where no rich text says it
+    std::set<std::string> missing_; // keys of what was logged
     std::span<const KeyPlace> keys_;
 };
 

@@ -53,6 +53,8 @@ void frm_AppIntro::describe(FieldTable& table) const {
     table.add("ClickY", ClickY);
     table.add("Aborted", Aborted);
     table.add("LastText", LastText.text);
+    table.add("Footer", footer_);
+    table.addGetter("Spoken", [this] { return FieldValue(spokenStage()); });
     table.add("Frames", frames_);
     describeSprites(table);
     describeIons(table);

@@ -2,6 +2,7 @@
 // the pH counts the zeros.
 #include "animations/frm_AppIntro.h"
 #include "animations/scripts.h"
+#include "animations/stage_layout.h"
 #include "shell/session/session.h"
 
 #include <algorithm>
@@ -28,11 +29,11 @@ Zoom zoomBetween(int first, int second, double seconds) {
 
 void drawBoxes(frm_AppIntro& stage) {
     const Color white = palette(15);
-    stage.hBox(20, 50, 500, 520, white, session().ParticleBackColor);
+    stage.hBox(kZoomPanel, white, session().ParticleBackColor);
     stage.hBox(520, 50, 780, 210, white, palette(1));
     stage.hBox(520, 230, 780, 440, white, palette(4));
     stage.hBox(520, 460, 780, 520, white, kResultGround);
-    stage.hBox(20, 540, 780, 580, white, palette(7));
+    stage.hBox(kFooter, white, palette(7));
 }
 
 void tellFraction(frm_AppIntro& stage, const Power& power) {
@@ -54,6 +55,8 @@ void tell(frm_AppIntro& stage, const Power& power) {
     stage.clearStage();
     stage.title(432, "Negativer dekadischer Logarithmus p=-log / wie: pH=-log c(Hµ3|O^+|)", 20,
                 Anchor::Centre);
+    stage.say(std::string("Von ") + power.count +
+              " Wasser-Molekülen liegt 1 Molekül als H3O+ vor. pH = " + power.exponent);
     drawBoxes(stage);
     stage.hPrint(530, 70,
                  std::string("Von ") + power.count +
@@ -62,8 +65,7 @@ void tell(frm_AppIntro& stage, const Power& power) {
     tellFraction(stage, power);
     stage.hPrint(660, 490, std::string("pH = -log(10^-") + power.exponent + "|)=" + power.exponent,
                  {.size = 20, .color = palette(15), .anchor = Anchor::Centre});
-    stage.hPrint(30, 560, "Mit Mausklick weiter zum nächsten Schritt. Mit ESC beenden",
-                 {.size = 20, .color = kBlack});
+    stage.hPrint(30, 560, kNextStep, {.size = 20, .color = kBlack});
 }
 
 // One step shown and the choice after it. The step that comes next; 7 for a new start.

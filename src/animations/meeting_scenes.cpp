@@ -3,6 +3,7 @@
 #include "animations/frm_AppIntro.h"
 #include "animations/reaction_scene.h"
 #include "animations/scripts.h"
+#include "animations/stage_layout.h"
 
 #include <array>
 
@@ -43,11 +44,10 @@ struct Meeting {
     Actors products;
 };
 
-constexpr const char* kStepFooter = "Mit Mausklick weiter zum nächsten Schritt. Mit ESC beenden";
 constexpr const char* kEscFooter = "Mit ESC beenden";
 
 constexpr Meeting kHydrogenChloride{
-    .frame = {"Säure-Base Reaktion: HCl in wässriger Lösung:", kStepFooter, "h2o-hcl\\wanne"},
+    .frame = {"Säure-Base Reaktion: HCl in wässriger Lösung:", kNextStep, "h2o-hcl\\wanne"},
     .forward = "Hinreaktion: HCl + H<SUB>2</SUB>O -> H<SUB>3</SUB>O<SUP>+</SUP> + Cl<SUP>-</SUP>",
     .back = "Keine Rückreaktion!",
     .educts = {{{"h2o-hcl\\_h2o", 345, 135, -1, kFormulaZoom},
@@ -116,13 +116,13 @@ bool part(frm_AppIntro& stage, const Actors& actors, double seconds) {
 bool react(frm_AppIntro& stage, const Actors& partners, const Joined& joined) {
     takeOff(stage, partners);
     const auto [x, y] = joined.particlePlace;
-    stage.hSprite(x, y, kParticleZoom, joined.particles);
+    particle(stage, x, y, joined.particles);
     stage.hSprite(joined.formulaPlace.x, joined.formulaPlace.y, kFormulaZoom, joined.formula);
-    const bool shaken = stage.tween(kShake, [&](const Progress&) {
-        const double shakenX = quendal::shaken(stage, x);
-        stage.hSprite(shakenX, quendal::shaken(stage, y), kParticleZoom, joined.particles);
+    const bool finished = stage.tween(kShake, [&](const Progress&) {
+        const double atX = shaken(stage, x);
+        particle(stage, atX, shaken(stage, y), joined.particles);
     });
-    if (!shaken) {
+    if (!finished) {
         return false;
     }
     stage.playSound(kReactionSound);

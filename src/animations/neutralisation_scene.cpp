@@ -8,10 +8,6 @@ namespace {
 
 constexpr ReactionFrame kFrame{"Neutralisation: Salzsäure mit Natronlauge", "", "h3o-cl\\wanne4"};
 
-void particle(frm_AppIntro& stage, double x, double y, const char* sprite) {
-    stage.hSprite(x, y, kParticleZoom, sprite);
-}
-
 // The ions that take no part stay where they are.
 void spectators(frm_AppIntro& stage) {
     particle(stage, 600, 330, "h3o-cl\\cl");

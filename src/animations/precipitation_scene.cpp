@@ -8,10 +8,6 @@ namespace {
 
 constexpr ReactionFrame kFrame{"Fällung: Silberionen mit Chloridionen", "", "fällung\\wanne"};
 
-void particle(frm_AppIntro& stage, double x, double y, const char* sprite) {
-    stage.hSprite(x, y, kParticleZoom, sprite);
-}
-
 bool showChloride(frm_AppIntro& stage) {
     stage.caption("Vorlage von: Cl<SUP>-</SUP> und Na<SUP>+</SUP>", kCaptionSize);
     const bool fallen = stage.tween(2, [&](const Progress& at) {

@@ -13,6 +13,10 @@ void setStage(frm_AppIntro& stage, const ReactionFrame& frame) {
     stage.hSprite(400, 300, kParticleZoom, frame.basin);
 }
 
+void particle(frm_AppIntro& stage, double x, double y, const char* sprite) {
+    stage.hSprite(x, y, kParticleZoom, sprite);
+}
+
 bool waitForNext(frm_AppIntro& stage) {
     stage.hWaitClick();
     stage.hClearText();

@@ -21,6 +21,9 @@ struct ReactionFrame {
 // The stage empty but for title, footer and basin.
 void setStage(frm_AppIntro& stage, const ReactionFrame& frame);
 
+// A particle in the basin, by its middle.
+void particle(frm_AppIntro& stage, double x, double y, const char* sprite);
+
 // Shows what was placed, waits for a click and clears the footer. False when the learner broke off.
 bool waitForNext(frm_AppIntro& stage);
 

@@ -1,5 +1,6 @@
 // Lines, boxes, pictures and the zoom of the stage.
 #include "animations/frm_AppIntro.h"
+#include "animations/stage_layout.h"
 #include "host/clock.h"
 #include "host/number_service.h"
 #include "host/roots.h"
@@ -13,8 +14,6 @@ namespace quendal {
 
 namespace {
 
-constexpr Rect kZoomPanel{20, 50, 480, 470};
-
 Rect between(Point from, Point to) {
     return {from.x, from.y, to.x - from.x, to.y - from.y};
 }
@@ -22,12 +21,6 @@ Rect between(Point from, Point to) {
 Rect common(const Rect& one, const Rect& two) {
     return between({std::max(one.left, two.left), std::max(one.top, two.top)},
                    {std::min(one.right(), two.right()), std::min(one.bottom(), two.bottom())});
-}
-
-// Null for a number that has no picture.
-PicturePtr powerPicture(int number) {
-    const auto& pictures = appResource().pic_phF;
-    return pictures.has(number) ? pictures(number).picture() : nullptr;
 }
 
 } // namespace
@@ -62,6 +55,10 @@ void frm_AppIntro::hBox(double x1, double y1, double x2, double y2, Color color,
     pic_Stage.surface().Box({double(hX(x1)), double(hY(y1))}, {double(hX(x2)), double(hY(y2))},
                             fill.value_or(color));
     hFrame(x1, y1, x2, y2, color);
+}
+
+void frm_AppIntro::hBox(const Rect& box, Color color, Color fill) {
+    hBox(box.left, box.top, box.right(), box.bottom(), color, fill);
 }
 
 void frm_AppIntro::hFrame(double x1, double y1, double x2, double y2, Color color) {
@@ -103,6 +100,17 @@ void frm_AppIntro::hBlitClip(const Rect& to, const PicturePtr& picture, const Re
                                    operation);
 }
 
+// Null for a number that has no picture.
+PicturePtr frm_AppIntro::powerOfTen(int number) {
+    const auto& pictures = appResource().pic_phF;
+    if (pictures.has(number)) {
+        return pictures(number).picture();
+    }
+    const std::string text = std::to_string(number);
+    logOnce(text, "picture missing: number " + text + " of phn\\f*.gif");
+    return nullptr;
+}
+
 void frm_AppIntro::hZoom(const Zoom& zoom) {
     runZoom(zoom, [](const Progress& at) { return at; });
 }
@@ -117,18 +125,17 @@ void frm_AppIntro::runZoom(const Zoom& zoom, Progress (*direction)(const Progres
 
 void frm_AppIntro::drawZoom(const Zoom& zoom, const Progress& at) {
     const Rect& panel = kZoomPanel;
-    hBox(panel.left, panel.top, panel.right(), panel.bottom(), palette(15),
-         session().ParticleBackColor);
+    hBox(panel, palette(15), session().ParticleBackColor);
     const double p = at.g();
     const double away = (1 - 1 / zoom.factor) * p / 100 + 1 / zoom.factor;
     hBlitClip({panel.left, panel.top, panel.width * away, panel.height * away},
-              powerPicture(zoom.second), panel, RasterOp::SrcCopy);
+              powerOfTen(zoom.second), panel, RasterOp::SrcCopy);
     const double s = (zoom.factor - 1) * p / 100 + 1;
     const Size size{panel.width * s, panel.height * s};
     const double q = at.d > 0 ? (at.d - at.t) * zoom.inner / at.d : 1;
     hBlitClip({(1 - q) * size.width / 10 + panel.left, (1 - q) * size.height / 10 + panel.top,
                q * size.width, q * size.height},
-              powerPicture(zoom.first), panel, RasterOp::SrcCopy);
+              powerOfTen(zoom.first), panel, RasterOp::SrcCopy);
     hFrame(panel.left, panel.top, panel.right(), panel.bottom(), palette(15));
 }
 

@@ -48,6 +48,12 @@ void frm_AppIntro::findSprites() {
     }
 }
 
+void frm_AppIntro::logOnce(const std::string& key, const std::string& line) {
+    if (missing_.insert(key).second) {
+        logLine(line);
+    }
+}
+
 // 0 for a name that isn't there.
 int frm_AppIntro::findSprite(const std::string& name) {
     const std::string key = upperName(name);
@@ -56,9 +62,7 @@ int frm_AppIntro::findSprite(const std::string& name) {
             return static_cast<int>(i);
         }
     }
-    if (missing_.insert(key).second) {
-        logLine("sprite missing: " + name);
-    }
+    logOnce(key, "sprite missing: " + name);
     return 0;
 }
 

@@ -1,5 +1,6 @@
 // Texts on the stage.
 #include "animations/frm_AppIntro.h"
+#include "animations/stage_layout.h"
 #include "host/roots.h"
 #include "host/string_list.h"
 #include "host/term_markup.h"
@@ -143,6 +144,7 @@ void frm_AppIntro::printMarked(Point place, std::string_view text, const FontSpe
 
 void frm_AppIntro::title(double x, const std::string& text, double size, Anchor anchor) {
     title_ = plainTerm(text);
+    said_.clear();
     hPrint(x, 24, text, {.size = size, .color = palette(15), .anchor = anchor});
 }
 
@@ -151,11 +153,13 @@ void frm_AppIntro::caption(const std::string& text, double size) {
 }
 
 void frm_AppIntro::hClearText() {
-    hBox(20, 540, 780, 580, kWhite, palette(7));
+    footer_.clear();
+    hBox(kFooter, kWhite, palette(7));
 }
 
 void frm_AppIntro::footer(const std::string& text) {
     hClearText();
+    footer_ = text;
     hPrint(30, 560, text, {.size = 20, .color = kBlack});
 }
 
@@ -164,7 +168,7 @@ void frm_AppIntro::clearStage() {
 }
 
 std::string frm_AppIntro::spokenStage() const {
-    const std::string text = plainRichText(LastText.text);
+    const std::string text = LastText.text.empty() ? said_ : plainRichText(LastText.text);
     return text.empty() ? title_ : title_ + " " + text;
 }
 

@@ -28,9 +28,11 @@ Point placeOnForm(const Control& control) {
     return place;
 }
 
-// A picture that nobody watches lets a press through to the form.
+// A picture or a line that nobody watches lets a press through to what lies beneath.
 bool letsThrough(const Control& control) {
-    return control.kind() == ControlKind::PictureBox && !control.onClick && !control.onMouse;
+    const bool shape =
+        control.kind() == ControlKind::PictureBox || control.kind() == ControlKind::Line;
+    return shape && !control.onClick && !control.onMouse;
 }
 
 // The control in front, of those that wait for presses, beneath a place on the form.
@@ -45,6 +47,14 @@ Control* controlAt(const Form& form, Point at) {
                    at.y < start.y + control->place().height;
         });
     return found == controls.rend() ? nullptr : *found;
+}
+
+// A place on the form in the control's own scale units.
+Point onControl(const Control& control, Point at) {
+    const Point start = placeOnForm(control);
+    const Size units = unitsOf(control);
+    return {(at.x - start.x) * units.width / control.place().width,
+            (at.y - start.y) * units.height / control.place().height};
 }
 
 void pressMiddle(Control& control) {
@@ -109,6 +119,14 @@ void HeadlessActor::check(CheckBox& box, bool on) {
 }
 
 void HeadlessActor::mouse(Form& form, Control* control, Point place, MouseButton button) {
+    if (control != nullptr && letsThrough(*control)) {
+        const Size units = unitsOf(*control);
+        const Point start = placeOnForm(*control);
+        place = {start.x + place.x * control->place().width / std::max(1.0, units.width),
+                 start.y + place.y * control->place().height / std::max(1.0, units.height)};
+        control = controlAt(form, place);
+        place = control != nullptr ? onControl(*control, place) : place;
+    }
     if (control != nullptr) {
         control->userMouse(place.x, place.y, button);
     } else {

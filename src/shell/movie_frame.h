@@ -13,7 +13,7 @@ struct MovieMoment {
     Color gridColor;
 };
 
-// Draws the whole surface, whatever stood there. Laid out for 505 by 257 units.
+// Draws the whole surface, whatever stood there. Laid out for 505 by 201 units.
 void drawMovieFrame(Surface& surface, const MovieMoment& moment);
 
 } // namespace quendal
