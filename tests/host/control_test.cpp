@@ -325,5 +325,63 @@ TEST_F(Controls, DescribeWhatOnlyTheirKindHas) {
     EXPECT_EQ(ask(form.lst_Mol, "items"), FieldValue(std::string("0.6,0.8")));
 }
 
+class LineForm final : public Form {
+  public:
+    LineForm() : Form("frm_Line", {400, 300}) {}
+    Line needle{*this, "shp_Indicator"};
+};
+
+TEST(LineControl, StandsInTheBoxAroundItsEnds) {
+    LineForm form;
+    form.needle.setEnds({100, 80}, {60, 20}, 3);
+    EXPECT_EQ(form.needle.from(), (Point{100, 80}));
+    EXPECT_EQ(form.needle.to(), (Point{60, 20}));
+    EXPECT_EQ(form.needle.thickness(), 3);
+    const Rect& place = form.needle.place();
+    // Room for half its thickness, and for soft edges, on all sides.
+    EXPECT_LE(place.left, 60 - 1.5);
+    EXPECT_LE(place.top, 20 - 1.5);
+    EXPECT_GE(place.right(), 100 + 1.5);
+    EXPECT_GE(place.bottom(), 80 + 1.5);
+    EXPECT_LT(place.width, 40 + 2 * 6);
+    EXPECT_DOUBLE_EQ(place.left + place.width / 2, 80);
+    EXPECT_DOUBLE_EQ(place.top + place.height / 2, 50);
+    form.needle.setEnds({10, 10}, {10, 10});
+    EXPECT_GT(place.width, 0);
+    EXPECT_EQ(form.needle.thickness(), 1);
+}
+
+TEST(LineControl, TellsRealChangesOnly) {
+    LineForm form;
+    form.needle.setEnds({1, 2}, {3, 4}, 2);
+    RecordingPeer peer(form.needle);
+    form.needle.setEnds({1, 2}, {3, 4}, 2);
+    EXPECT_TRUE(peer.aspects.empty());
+    form.needle.setEnds({1, 2}, {30, 40}, 2);
+    EXPECT_EQ(peer.aspects, (std::vector<Aspect>{Aspect::Place, Aspect::Value}));
+    peer.aspects.clear();
+    form.needle.setEnds({30, 40}, {1, 2}, 2); // the same box
+    EXPECT_EQ(peer.aspects, std::vector<Aspect>{Aspect::Value});
+    peer.aspects.clear();
+    form.needle.setEnds({30, 40}, {1, 2}, 3);
+    EXPECT_EQ(peer.aspects, (std::vector<Aspect>{Aspect::Place, Aspect::Value}));
+    peer.aspects.clear();
+    form.needle.setTextColor(palette(4));
+    EXPECT_EQ(peer.aspects, std::vector<Aspect>{Aspect::Colours});
+}
+
+TEST(LineControl, TellsItsEnds) {
+    LineForm form;
+    form.needle.setEnds({1, 2}, {3, 4});
+    FieldTable table;
+    form.needle.describe(table);
+    EXPECT_EQ(std::get<double>(table.find("x1").value()), 1);
+    EXPECT_EQ(std::get<double>(table.find("y1").value()), 2);
+    EXPECT_EQ(std::get<double>(table.find("x2").value()), 3);
+    EXPECT_EQ(std::get<double>(table.find("y2").value()), 4);
+    EXPECT_EQ(form.needle.kind(), ControlKind::Line);
+    EXPECT_FALSE(form.needle.takesFocus());
+}
+
 } // namespace
 } // namespace quendal

@@ -17,6 +17,28 @@ TEST(FoldName, CaseAndFormOfUmlautsDontCount) {
     EXPECT_EQ(foldName("A\xCC"), "a\xCC");
 }
 
+TEST(UpperName, CapitalsOfLettersAndUmlauts) {
+    EXPECT_EQ(upperName("h2o-hcl\\_h2o"), "H2O-HCL\\_H2O");
+    EXPECT_EQ(upperName("fällung"), "FÄLLUNG");
+    EXPECT_EQ(upperName("äöüÄÖÜ"), "ÄÖÜÄÖÜ");
+    EXPECT_EQ(upperName("a\u0308o\u0308u\u0308A\u0308O\u0308U\u0308"), "ÄÖÜÄÖÜ");
+    EXPECT_EQ(upperName("Straße"), upperName("STRA\u1E9EE"));
+    EXPECT_NE(upperName("Straße"), upperName("STRASSE"));
+    EXPECT_EQ(upperName("grün1.wmf"), "GRÜN1.WMF");
+    EXPECT_EQ(upperName("é[1]~"), "é[1]~");
+    EXPECT_EQ(upperName(""), "");
+    EXPECT_EQ(upperName("\xC3"), "\xC3"); // half an umlaut
+    EXPECT_EQ(upperName("z\xFF\x80"), "Z\xFF\x80");
+}
+
+TEST(UpperName, IsTheSameForNamesThatMeanTheSame) {
+    for (const char* name : {"Säure.WMF", "säure.wmf", "SA\u0308URE.wmf", "sa\u0308ure.WMF"}) {
+        EXPECT_EQ(upperName(name), "SÄURE.WMF") << name;
+        EXPECT_EQ(upperName(upperName(name)), upperName(name));
+        EXPECT_EQ(foldName(upperName(name)), foldName(name));
+    }
+}
+
 struct PatternRow {
     const char* name;
     const char* pattern;

@@ -18,6 +18,10 @@ class TestForm final : public Form {
         keys.push_back(key);
         return swallows;
     }
+    bool Form_KeyPress(const std::string& character) override {
+        characters.push_back(character);
+        return takesCharacters;
+    }
 
     ctl_Button but_A{*this, "but_A"};
     ctl_Label lab_Text{*this, "lab_Text"};
@@ -25,7 +29,9 @@ class TestForm final : public Form {
     ctl_Frame frm_Group{*this, "frm_Group"};
     ctl_Button but_C{*this, "but_C"};
     std::vector<Key> keys;
+    std::vector<std::string> characters;
     bool swallows = false;
+    bool takesCharacters = false;
 };
 
 class Forms : public testing::Test {
@@ -88,6 +94,29 @@ TEST_F(Forms, TheFormSeesKeysFirst) {
     EXPECT_TRUE(form.userKey(Key::Enter));
     EXPECT_EQ(atControl.size(), 1U);
     EXPECT_EQ(form.keys, (std::vector<Key>{Key::Enter, Key::Enter}));
+}
+
+TEST_F(Forms, TheFormSeesCharactersBeforeTheControl) {
+    int clicks = 0;
+    form.but_A.onClick = [&clicks] { ++clicks; };
+    form.but_A.setFocus();
+    EXPECT_TRUE(form.userKey(Key::Other, " "));
+    EXPECT_FALSE(form.userKey(Key::Other, "ü"));
+    EXPECT_EQ(clicks, 1);
+    form.takesCharacters = true;
+    EXPECT_TRUE(form.userKey(Key::Other, " "));
+    EXPECT_TRUE(form.userKey(Key::Other, "ü"));
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(form.characters, (std::vector<std::string>{" ", "ü", " ", "ü"}));
+}
+
+TEST_F(Forms, KeysThatDontWriteArentCharacters) {
+    form.userKey(Key::Tab);
+    form.userKey(Key::Other);
+    EXPECT_TRUE(form.characters.empty());
+    form.swallows = true; // what the form takes as a key it doesn't see again
+    EXPECT_TRUE(form.userKey(Key::Other, "x"));
+    EXPECT_TRUE(form.characters.empty());
 }
 
 TEST_F(Forms, ReturnPressesTheFocusedButton) {

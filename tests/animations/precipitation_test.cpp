@@ -1,0 +1,136 @@
+// Silver ions with chloride ions, frame by frame.
+#include "reaction_film.h"
+
+namespace quendal::test {
+namespace {
+
+using Sprites = std::vector<Moving>;
+
+class Precipitation : public ReactionTest {
+  protected:
+    Precipitation() {
+        addAllSprites();
+        basin = "FÄLLUNG\\WANNE";
+    }
+    static std::string named(const char* name) { return std::string("FÄLLUNG\\") + name; }
+
+    const std::string given = "Vorlage von: Cl<SUP>-</SUP> und Na<SUP>+</SUP>";
+    const std::string added = "Zugabe von: Ag<SUP>+</SUP> und NO<SUB>3</SUB><SUP>-</SUP>";
+    const std::string reaction = "Reaktion von: Ag<SUP>+</SUP> und Cl<SUP>-</SUP>";
+    const std::string end = "Das gebildete Silberchlorid setzt sich als Bodenkörper unten ab";
+
+    const Sprites salt{{named("CL"), 100,
+                        [](double g) {
+                            return Point{300, 100 + 2 * g};
+                        }},
+                       {named("NA"), 100, [](double g) {
+                            return Point{500, 100 + 2 * g};
+                        }}};
+    const Sprites fallen{standing(named("CL"), 300, 300), standing(named("NA"), 500, 300)};
+    const Sprites silver{{named("AG"), 100,
+                          [](double g) {
+                              return Point{350, 100 + 2 * g};
+                          }},
+                         {named("NO3"), 100,
+                          [](double g) {
+                              return Point{450, 100 + 2 * g};
+                          }},
+                         {named("CL"), 100,
+                          [](double g) {
+                              return Point{300 - g, 300};
+                          }},
+                         {named("NA"), 100, [](double g) {
+                              return Point{500 + g, 300};
+                          }}};
+    const Sprites all{standing(named("AG"), 350, 300), standing(named("NO3"), 450, 300),
+                      standing(named("CL"), 200, 300), standing(named("NA"), 600, 300)};
+    const Sprites meeting{{named("CL"), 100,
+                           [](double g) {
+                               return Point{200 + 0.35 * g, 300};
+                           }},
+                          {named("AG"), 100,
+                           [](double g) {
+                               return Point{350 - 0.35 * g, 300};
+                           }},
+                          standing(named("NA"), 600, 300),
+                          standing(named("NO3"), 450, 300)};
+    const Sprites sinking{{named("CL"), 100,
+                           [](double g) {
+                               return Point{235 + 115 * g / 100, 300 + 150 * g / 100};
+                           }},
+                          {named("AG"), 100,
+                           [](double g) {
+                               return Point{315 + 115 * g / 100, 300 + 150 * g / 100};
+                           }},
+                          {named("NA"), 100,
+                           [](double g) {
+                               return Point{600 - g * 2 / 3, 300};
+                           }},
+                          standing(named("NO3"), 450, 300)};
+    const Sprites sunk{standing(named("CL"), 350, 450), standing(named("AG"), 430, 450),
+                       standing(named("NA"), 600 - 200.0 / 3, 300),
+                       standing(named("NO3"), 450, 300)};
+
+    void expectRun(Film& film) {
+        expectMotion(film, 2, salt, {given, "", 0});
+        expectWait(film, fallen, {given, "", 0});
+        expectMotion(film, 2, silver, {added, "", 0});
+        expectWait(film, all, {added, "", 0});
+        expectMotion(film, 1, meeting, {reaction, "", 0});
+        expectMotion(film, 2, sinking, {reaction, "", 0});
+        expectWait(film, sunk, {end, "", 0});
+        expectStill(film, sunk, {end, kRepeat, 0});
+    }
+    void answerAll() {
+        for (int i = 0; i < 3; ++i) {
+            answerClick();
+        }
+    }
+};
+
+constexpr std::int32_t kScene = 6;
+
+TEST_F(Precipitation, PlaysFrameByFrame) {
+    answerAll();
+    play(kScene);
+    EXPECT_EQ(waits, 4);
+    Film film(shots);
+    expectRun(film);
+    EXPECT_TRUE(film.atEnd());
+    EXPECT_TRUE(host.sounds.played.empty());
+    EXPECT_TRUE(logged.empty());
+}
+
+TEST_F(Precipitation, PlaysAgainToTheSameEnd) {
+    answerAll();
+    answerClick();
+    answerAll();
+    play(kScene);
+    Film film(shots);
+    expectRun(film);
+    const Shot first = shots[film.position() - 1];
+    expectRun(film);
+    EXPECT_TRUE(film.atEnd());
+    EXPECT_EQ(shots.back().sprites, first.sprites);
+    EXPECT_EQ(shots.back().order, first.order);
+    EXPECT_EQ(graphics.loads.size(), 5U);
+}
+
+TEST_F(Precipitation, HasItsTextsInTheirSizes) {
+    std::map<std::string, double> sizes; // px
+    eachShot = [&](const Shot&) {
+        for (const Mark& mark : paper.of(Mark::Kind::Text)) {
+            sizes[mark.text] = mark.font.size;
+        }
+    };
+    answerAll();
+    play(kScene);
+    EXPECT_DOUBLE_EQ(sizes["Fällung: Silberionen mit Chloridionen"], 22.5);
+    EXPECT_DOUBLE_EQ(sizes["Vorlage von: Cl"], 27);
+    EXPECT_DOUBLE_EQ(sizes["Zugabe von: Ag"], 27);
+    EXPECT_DOUBLE_EQ(sizes["Reaktion von: Ag"], 27);
+    EXPECT_DOUBLE_EQ(sizes[end], 18); // 20 points of the design
+}
+
+} // namespace
+} // namespace quendal::test
