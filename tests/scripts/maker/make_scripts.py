@@ -1,9 +1,13 @@
 #!/usr/bin/env python3
-"""Writes the learners' scripts that follow a scheme: make_scripts.py FOLDER."""
+"""Writes the learners' scripts that follow a scheme: make_scripts.py FOLDER.
+
+Beside a script NAME.qs may stand NAME.log: the files that the program tells of on standard error.
+"""
 
 import sys
 from pathlib import Path
 
+import animations
 import beginnings
 import calculator
 import demo
@@ -46,6 +50,7 @@ FAMILIES = (
     lf_data,
     strong,
     strong_ladder,
+    animations,
 )
 
 
@@ -56,10 +61,15 @@ def main(arguments):
     folder = Path(arguments[1])
     folder.mkdir(parents=True, exist_ok=True)
     for family in FAMILIES:
-        for name, lines in family.scripts():
-            text = "\n".join(lines) + "\n"
-            (folder / (name + ".qs")).write_text(text, encoding="utf-8", newline="\n")
+        for name, lines, *told in family.scripts():
+            write(folder / (name + ".qs"), lines)
+            for files in told:
+                write(folder / (name + ".log"), files)
     return 0
+
+
+def write(path, lines):
+    path.write_text("\n".join(lines) + "\n", encoding="utf-8", newline="\n")
 
 
 if __name__ == "__main__":
