@@ -1,6 +1,7 @@
 #include "animations/frm_AppIntro.h"
 
 #include "animations/scripts.h"
+#include "animations/stage_layout.h"
 #include "host/clock.h"
 #include "host/number_service.h"
 #include "host/path_service.h"
@@ -208,7 +209,8 @@ bool frm_AppIntro::hAskChoice(const std::string& back, const std::string& forwar
     static const std::string kCross = "X";
     static constexpr KeyPlace kKeys[] = {{"<", {550, 560}}, {"-", {550, 560}}, {">", {730, 560}},
                                          {"+", {730, 560}}, {" ", {730, 560}}, {"\r", {730, 560}}};
-    hBox(20, 540, 780, 580, kBlack); // the stage shows between the buttons
+    footer_ = kEnd;
+    hBox(kFooter, kBlack, kBlack); // the stage shows between the buttons
     for (const Field& field :
          {Field{20, 500, kEnd, 30, Anchor::Left}, Field{520, 620, back, 570, Anchor::Centre},
           Field{640, 660, kCross, 650, Anchor::Centre},

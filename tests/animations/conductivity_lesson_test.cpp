@@ -1,5 +1,6 @@
 // The conductivity lesson on its stage: what a learner does, second by second.
 #include "animations/lesson_fixture.h"
+#include "support/form_sizer.h"
 
 #include <algorithm>
 #include <tuple>
@@ -346,25 +347,9 @@ TEST_F(Lesson, DoesWithoutPictures) {
     play();
 }
 
-// Gives a form any size.
-class Sizer final : public WindowSystem {
-  public:
-    void give(Form& form, Size inner) { resize(form, inner); }
-    Size screen() const override { return {}; }
-    double scaleOf(const Form&) const override { return 1; }
-    void setPointer(MousePointer) override {}
-    [[noreturn]] void EndProcess() override { throw ProcessEnded{}; }
-
-  protected:
-    void deliverEvents() override {}
-    void waitForEvents(double) override {}
-    void realise(Form&, bool) override {}
-    void withdraw(Form&) override {}
-};
-
 TEST_F(Lesson, FitsEveryScreen) {
     for (const Size size : {Size{640, 480}, Size{1366, 768}, Size{1920, 1080}, Size{768, 1024}}) {
-        then([&, size] { Sizer().give(stage, size); });
+        then([&, size] { FormSizer().give(stage, size); });
         repeat(400, 20);
         wait(0.1);
         then([&, size] {

@@ -9,11 +9,18 @@ namespace quendal::test {
 namespace {
 
 constexpr double kHalfPixel = 0.5 + 1e-9;
+constexpr double kShake = 5; // units
 
 } // namespace
 
 Moving standing(const std::string& name, double x, double y, double zoom) {
     return {name, zoom, [x, y](double) { return Point{x, y}; }};
+}
+
+Moving shaking(const std::string& name, double x, double y) {
+    Moving sprite = standing(name, x, y);
+    sprite.shake = kShake;
+    return sprite;
 }
 
 void ReactionTest::addSprites(const std::string& folder, const std::vector<std::string>& names) {

@@ -18,6 +18,8 @@ struct Moving {
 };
 
 Moving standing(const std::string& name, double x, double y, double zoom = 100);
+// Within 5 units of its place.
+Moving shaking(const std::string& name, double x, double y);
 
 // What stays the same in a step.
 struct Look {

@@ -3,6 +3,7 @@
 #include "host/log.h"
 #include "shell/forms/instances.h"
 #include "shell/session/session.h"
+#include "support/form_sizer.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -13,33 +14,6 @@ namespace {
 
 constexpr double kLongest = 600; // s, beyond it a test has lost its way
 constexpr double kTick = 1e-6;   // s, of what is left when times are added up
-
-class BlankPicture final : public Picture {
-  public:
-    BlankPicture(int width, int height) : width_(width), height_(height) {}
-    int width() const override { return width_; }
-    int height() const override { return height_; }
-
-  private:
-    int width_;
-    int height_;
-};
-
-// Gives a form any size.
-class Sizer final : public WindowSystem {
-  public:
-    void give(Form& form, Size inner) { WindowSystem::resize(form, inner); }
-    Size screen() const override { return {}; }
-    double scaleOf(const Form&) const override { return 1; }
-    void setPointer(MousePointer) override {}
-    [[noreturn]] void EndProcess() override { throw ProcessEnded{}; }
-
-  protected:
-    void deliverEvents() override {}
-    void waitForEvents(double) override {}
-    void realise(Form&, bool) override {}
-    void withdraw(Form&) override {}
-};
 
 std::string fileOf(const std::string& name) {
     return "data/" + name + ".wmf";
@@ -63,7 +37,7 @@ PicturePtr StagePictures::Scaled(const PicturePtr& picture, int width, int heigh
 }
 
 PicturePtr StagePictures::blank(int width, int height) {
-    return std::make_shared<BlankPicture>(width, height);
+    return blankPicture(width, height);
 }
 
 const Shot& Film::still() {
@@ -111,7 +85,7 @@ void StageTest::addBrokenSprite(const std::string& name) {
 }
 
 void StageTest::resize(Form& form, Size size) {
-    Sizer().give(form, size);
+    FormSizer().give(form, size);
 }
 
 // Back to 0, so that two runs are the same to the last bit.

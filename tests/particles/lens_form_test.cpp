@@ -3,6 +3,7 @@
 #include "particles/lens_pairs.h"
 #include "shell/session/session.h"
 #include "support/fake_roots.h"
+#include "support/form_sizer.h"
 #include "support/recording_surface.h"
 
 #include <gtest/gtest.h>
@@ -475,28 +476,12 @@ TEST_F(Lens, TellsWhatItDoes) {
     EXPECT_EQ(number(lens, "Active"), 0);
 }
 
-// Gives a form any size.
-class Sizer final : public WindowSystem {
-  public:
-    void give(Form& form, Size inner) { resize(form, inner); }
-    Size screen() const override { return {}; }
-    double scaleOf(const Form&) const override { return 1; }
-    void setPointer(MousePointer) override {}
-    [[noreturn]] void EndProcess() override { throw ProcessEnded{}; }
-
-  protected:
-    void deliverEvents() override {}
-    void waitForEvents(double) override {}
-    void realise(Form&, bool) override {}
-    void withdraw(Form&) override {}
-};
-
 TEST_F(Lens, TurnsDesignUnitsIntoPixels) {
     frm_AppMagnify lens;
     EXPECT_TRUE(lens.scalesItself());
     EXPECT_TRUE(lens.frameless());
     EXPECT_EQ(lens.windowState(), WindowState::Maximised);
-    Sizer sizer;
+    FormSizer sizer;
     sizer.give(lens, {1366, 768});
     EXPECT_EQ(lens.hScaleX(592), 1366);
     EXPECT_EQ(lens.hScaleY(444), 768);
@@ -513,7 +498,7 @@ TEST_F(Lens, ArrangesItselfForEveryScreen) {
     for (const Size size : {Size{592, 444}, Size{1024, 768}, Size{1366, 768}, Size{1920, 1080},
                             Size{768, 1024}, Size{3840, 2160}}) {
         frm_AppMagnify lens;
-        Sizer sizer;
+        FormSizer sizer;
         sizer.give(lens, size);
         EXPECT_EQ(lens.pic_Fill.place(), (Rect{0, 0, size.width, size.height}));
         const Rect& scene = lens.pic_Screen.place();
@@ -544,7 +529,7 @@ TEST_F(Lens, ArrangesItselfForEveryScreen) {
 TEST_F(Lens, DrawsTheGlassAnewWhenTheScreenChanges) {
     frm_AppMagnify lens;
     at(2, [&] {
-        Sizer().give(lens, {800, 600});
+        FormSizer().give(lens, {800, 600});
         EXPECT_EQ(fill.stretches.back().to, (Rect{0, 0, 800, 600}));
         click(lens);
     });

@@ -32,6 +32,10 @@ T takeOr(std::deque<T>& ready, T otherwise) {
 
 } // namespace
 
+PicturePtr blankPicture(int width, int height) {
+    return std::make_shared<BlankPicture>(width, height);
+}
+
 void ManualClock::SleepMs(double milliseconds) {
     if (onSleep) {
         onSleep();
@@ -91,11 +95,11 @@ PicturePtr FakeGraphics::LoadPicture(const std::string& path) {
 }
 
 PicturePtr FakeGraphics::Scaled(const PicturePtr& picture, int width, int height) {
-    return picture == nullptr ? nullptr : std::make_shared<BlankPicture>(width, height);
+    return picture == nullptr ? nullptr : blankPicture(width, height);
 }
 
 void FakeGraphics::addPicture(const std::string& path, int width, int height) {
-    pictures_[path] = std::make_shared<BlankPicture>(width, height);
+    pictures_[path] = blankPicture(width, height);
 }
 
 void FakeWindows::deliverEvents() {
@@ -139,9 +143,9 @@ PicturePtr FakeCapture::grab(WindowHandle window, const PixelRect& part) const {
     const PixelRect place = windowRect(window);
     const bool there =
         place.right >= place.left && part.right >= part.left && part.bottom >= part.top;
-    return there && givesPictures ? std::make_shared<BlankPicture>(part.right - part.left + 1,
-                                                                   part.bottom - part.top + 1)
-                                  : nullptr;
+    return there && givesPictures
+               ? blankPicture(part.right - part.left + 1, part.bottom - part.top + 1)
+               : nullptr;
 }
 
 std::string FakeHostControl::Query(const std::string& section, const std::string& verb,

@@ -79,6 +79,9 @@ class FakeSystemInfo final : public SystemInfo {
     std::string name = "lerner";
 };
 
+// A picture of this size that nobody looks into.
+PicturePtr blankPicture(int width, int height);
+
 class FakeGraphics final : public Graphics {
   public:
     Color SystemColor(int /*number*/) const override { return buttonColor; }
