@@ -1,14 +1,14 @@
 // Hydrochloric acid with sodium hydroxide, frame by frame.
-#include "reaction_film.h"
+#include "clicked_scene.h"
 
 namespace quendal::test {
 namespace {
 
 using Sprites = std::vector<Moving>;
 
-class Neutralisation : public ReactionTest {
+class Neutralisation : public ClickedScene {
   protected:
-    Neutralisation() {
+    Neutralisation() : ClickedScene(5, 3) {
         addAllSprites();
         basin = "H3O-CL\\WANNE4";
     }
@@ -78,7 +78,7 @@ class Neutralisation : public ReactionTest {
         }
         ASSERT_GE(motion.size(), 60U);
     }
-    void expectRun(Film& film) {
+    void expectRun(Film& film) override {
         expectWait(film, acid, {given, "", 0});
         expectMotion(film, 3, falling, {added, "", 0});
         expectWait(film, fallen, {added, "", 0});
@@ -90,50 +90,18 @@ class Neutralisation : public ReactionTest {
         expectStill(film, left, {end, "", 0});
         expectStill(film, left, {end, kRepeat, 0});
     }
-    void answerAll() {
-        for (int i = 0; i < 3; ++i) {
-            answerClick();
-        }
-    }
 };
 
-constexpr std::int32_t kScene = 5;
-
 TEST_F(Neutralisation, PlaysFrameByFrame) {
-    answerAll();
-    play(kScene);
-    EXPECT_EQ(waits, 4);
-    Film film(shots);
-    expectRun(film);
-    EXPECT_TRUE(film.atEnd());
-    EXPECT_TRUE(host.sounds.played.empty());
-    EXPECT_TRUE(logged.empty());
+    expectOneRun();
 }
 
 TEST_F(Neutralisation, PlaysAgainToTheSameEnd) {
-    answerAll();
-    answerClick();
-    answerAll();
-    play(kScene);
-    Film film(shots);
-    expectRun(film);
-    const Shot first = shots[film.position() - 1];
-    expectRun(film);
-    EXPECT_TRUE(film.atEnd());
-    EXPECT_EQ(shots.back().sprites, first.sprites);
-    EXPECT_EQ(shots.back().order, first.order);
-    EXPECT_EQ(graphics.loads.size(), 7U);
+    expectTwoRuns(7);
 }
 
 TEST_F(Neutralisation, HasItsTextsInTheirSizes) {
-    std::map<std::string, double> sizes; // by the beginning of a text, px
-    eachShot = [&](const Shot&) {
-        for (const Mark& mark : paper.of(Mark::Kind::Text)) {
-            sizes[mark.text] = mark.font.size;
-        }
-    };
-    answerAll();
-    play(kScene);
+    std::map<std::string, double> sizes = textSizes();
     EXPECT_DOUBLE_EQ(sizes["Neutralisation: Salzsäure mit Natronlauge"], 22.5);
     EXPECT_DOUBLE_EQ(sizes["Vorlage: H"], 27);
     EXPECT_DOUBLE_EQ(sizes["Zugabe von: Na"], 27);

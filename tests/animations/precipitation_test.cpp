@@ -1,14 +1,14 @@
 // Silver ions with chloride ions, frame by frame.
-#include "reaction_film.h"
+#include "clicked_scene.h"
 
 namespace quendal::test {
 namespace {
 
 using Sprites = std::vector<Moving>;
 
-class Precipitation : public ReactionTest {
+class Precipitation : public ClickedScene {
   protected:
-    Precipitation() {
+    Precipitation() : ClickedScene(6, 3) {
         addAllSprites();
         basin = "FÄLLUNG\\WANNE";
     }
@@ -71,7 +71,7 @@ class Precipitation : public ReactionTest {
                        standing(named("NA"), 600 - 200.0 / 3, 300),
                        standing(named("NO3"), 450, 300)};
 
-    void expectRun(Film& film) {
+    void expectRun(Film& film) override {
         expectMotion(film, 2, salt, {given, "", 0});
         expectWait(film, fallen, {given, "", 0});
         expectMotion(film, 2, silver, {added, "", 0});
@@ -81,50 +81,18 @@ class Precipitation : public ReactionTest {
         expectWait(film, sunk, {end, "", 0});
         expectStill(film, sunk, {end, kRepeat, 0});
     }
-    void answerAll() {
-        for (int i = 0; i < 3; ++i) {
-            answerClick();
-        }
-    }
 };
 
-constexpr std::int32_t kScene = 6;
-
 TEST_F(Precipitation, PlaysFrameByFrame) {
-    answerAll();
-    play(kScene);
-    EXPECT_EQ(waits, 4);
-    Film film(shots);
-    expectRun(film);
-    EXPECT_TRUE(film.atEnd());
-    EXPECT_TRUE(host.sounds.played.empty());
-    EXPECT_TRUE(logged.empty());
+    expectOneRun();
 }
 
 TEST_F(Precipitation, PlaysAgainToTheSameEnd) {
-    answerAll();
-    answerClick();
-    answerAll();
-    play(kScene);
-    Film film(shots);
-    expectRun(film);
-    const Shot first = shots[film.position() - 1];
-    expectRun(film);
-    EXPECT_TRUE(film.atEnd());
-    EXPECT_EQ(shots.back().sprites, first.sprites);
-    EXPECT_EQ(shots.back().order, first.order);
-    EXPECT_EQ(graphics.loads.size(), 5U);
+    expectTwoRuns(5);
 }
 
 TEST_F(Precipitation, HasItsTextsInTheirSizes) {
-    std::map<std::string, double> sizes; // px
-    eachShot = [&](const Shot&) {
-        for (const Mark& mark : paper.of(Mark::Kind::Text)) {
-            sizes[mark.text] = mark.font.size;
-        }
-    };
-    answerAll();
-    play(kScene);
+    std::map<std::string, double> sizes = textSizes();
     EXPECT_DOUBLE_EQ(sizes["Fällung: Silberionen mit Chloridionen"], 22.5);
     EXPECT_DOUBLE_EQ(sizes["Vorlage von: Cl"], 27);
     EXPECT_DOUBLE_EQ(sizes["Zugabe von: Ag"], 27);
