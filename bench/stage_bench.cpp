@@ -51,7 +51,7 @@ void tweenFrame(benchmark::State& state) {
     QuietStage stage(benchHost(), sizeOf(state));
     frm_AppIntro& form = stage.form();
     form.hSprite(400, 300, 100, "h2o-hac\\wanne");
-    form.caption("Hinreaktion: HAc + H<SUB>2</SUB>O -> H<SUB>3</SUB>O<SUP>+</SUP>", 30);
+    form.subtitle("Hinreaktion: HAc + H<SUB>2</SUB>O -> H<SUB>3</SUB>O<SUP>+</SUP>", 30);
     int percent = 0;
     for (auto _ : state) {
         percent = (percent + 1) % 100;

@@ -40,8 +40,10 @@ frm_AppIntro::frm_AppIntro() : Form("frm_AppIntro", {800, 600}) {
 }
 
 void frm_AppIntro::Form_Load() {
+    ShowPanel = false;
     Clicked = false;
     Aborted = false;
+    LastText = {};
     findSprites();
     tmr_Startup.setEnabled(true);
 }

@@ -174,7 +174,7 @@ class frm_AppIntro final : public Form {
     // The footer with a text.
     void footer(const std::string& text);
     // A line in the middle of the panel's foot, in tags; `size` in points, -1 as for hPrint.
-    void caption(const std::string& text, double size = -1);
+    void subtitle(const std::string& text, double size = -1);
     // Calls `frame` again and again, the last time with all done, each time followed by hRender.
     // False when the learner broke off.
     bool tween(double seconds, const std::function<void(const Progress&)>& frame);

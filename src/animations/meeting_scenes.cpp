@@ -147,14 +147,14 @@ void playEquilibrium(frm_AppIntro& stage, const Meeting& meeting, Equilibrium ki
     for (;;) {
         setStage(stage, meeting.frame);
         stage.showLensButton(kind);
-        stage.caption(meeting.forward, kCaptionSize);
+        stage.subtitle(meeting.forward, kSubtitleSize);
         place(stage, meeting.educts, 100);
         if (!forward(stage, meeting)) {
             return;
         }
         setStage(stage, meeting.frame);
         stage.showLensButton(kind);
-        stage.caption(meeting.back, kCaptionSize);
+        stage.subtitle(meeting.back, kSubtitleSize);
         if (!back(stage, meeting) || !stage.tween(kPause, [](const Progress&) {})) {
             return;
         }
@@ -166,12 +166,12 @@ void playEquilibrium(frm_AppIntro& stage, const Meeting& meeting, Equilibrium ki
 void playHydrogenChloride(frm_AppIntro& stage) {
     const Meeting& meeting = kHydrogenChloride;
     setStage(stage, meeting.frame);
-    stage.caption(meeting.forward, kCaptionSize);
+    stage.subtitle(meeting.forward, kSubtitleSize);
     place(stage, meeting.educts, 100);
     if (!waitForNext(stage) || !forward(stage, meeting)) {
         return;
     }
-    stage.caption(meeting.back);
+    stage.subtitle(meeting.back);
     stage.hRender();
 }
 

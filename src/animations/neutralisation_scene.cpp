@@ -15,7 +15,7 @@ void spectators(frm_AppIntro& stage) {
 }
 
 bool showAcid(frm_AppIntro& stage) {
-    stage.caption("Vorlage: H<SUB>3</SUB>O<SUP>+</SUP> und Cl<SUP>-</SUP>", kCaptionSize);
+    stage.subtitle("Vorlage: H<SUB>3</SUB>O<SUP>+</SUP> und Cl<SUP>-</SUP>", kSubtitleSize);
     particle(stage, 300, 330, "h3o-cl\\h3o");
     particle(stage, 500, 330, "h3o-cl\\cl");
     return waitForNext(stage);
@@ -23,7 +23,7 @@ bool showAcid(frm_AppIntro& stage) {
 
 // The newcomers fall in while the others make room.
 bool addBase(frm_AppIntro& stage) {
-    stage.caption("Zugabe von: Na<SUP>+</SUP> und OH<SUP>-</SUP>", kCaptionSize);
+    stage.subtitle("Zugabe von: Na<SUP>+</SUP> und OH<SUP>-</SUP>", kSubtitleSize);
     const bool fallen = stage.tween(3, [&](const Progress& at) {
         const double g = at.g();
         const double y = g * 2 + 130;
@@ -36,8 +36,8 @@ bool addBase(frm_AppIntro& stage) {
 }
 
 bool react(frm_AppIntro& stage) {
-    stage.caption("Reaktion von: H<SUB>3</SUB>O<SUP>+</SUP> und OH<SUP>-</SUP> zu 2H<SUB>2</SUB>O",
-                  kCaptionSize);
+    stage.subtitle("Reaktion von: H<SUB>3</SUB>O<SUP>+</SUP> und OH<SUP>-</SUP> zu 2H<SUB>2</SUB>O",
+                   kSubtitleSize);
     const bool met = stage.tween(1, [&](const Progress& at) {
         const double u = at.g() * 0.3;
         particle(stage, u + 200, 330, "h3o-cl\\h3o");
@@ -60,7 +60,7 @@ bool makeWater(frm_AppIntro& stage) {
         return false;
     }
     stage.hRender();
-    stage.caption("Das entstandene Wasser 'vermehrt' das umgebende Wasser", 20);
+    stage.subtitle("Das entstandene Wasser 'vermehrt' das umgebende Wasser", 20);
     return waitForNext(stage);
 }
 
@@ -77,8 +77,8 @@ bool joinWater(frm_AppIntro& stage) {
 void playNeutralisation(frm_AppIntro& stage) {
     setStage(stage, kFrame);
     if (showAcid(stage) && addBase(stage) && react(stage) && makeWater(stage) && joinWater(stage)) {
-        stage.caption("Letztendlich wurde ein H<SUB>3</SUB>O<SUP>+</SUP> durch ein Na<SUP>+</SUP> "
-                      "ersetzt.");
+        stage.subtitle("Letztendlich wurde ein H<SUB>3</SUB>O<SUP>+</SUP> durch ein Na<SUP>+</SUP> "
+                       "ersetzt.");
         stage.hRender();
     }
 }

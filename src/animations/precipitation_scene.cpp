@@ -9,7 +9,7 @@ namespace {
 constexpr ReactionFrame kFrame{"Fällung: Silberionen mit Chloridionen", "", "fällung\\wanne"};
 
 bool showChloride(frm_AppIntro& stage) {
-    stage.caption("Vorlage von: Cl<SUP>-</SUP> und Na<SUP>+</SUP>", kCaptionSize);
+    stage.subtitle("Vorlage von: Cl<SUP>-</SUP> und Na<SUP>+</SUP>", kSubtitleSize);
     const bool fallen = stage.tween(2, [&](const Progress& at) {
         const double y = at.g() * 2 + 100;
         particle(stage, 300, y, "fällung\\cl");
@@ -19,7 +19,7 @@ bool showChloride(frm_AppIntro& stage) {
 }
 
 bool addSilver(frm_AppIntro& stage) {
-    stage.caption("Zugabe von: Ag<SUP>+</SUP> und NO<SUB>3</SUB><SUP>-</SUP>", kCaptionSize);
+    stage.subtitle("Zugabe von: Ag<SUP>+</SUP> und NO<SUB>3</SUB><SUP>-</SUP>", kSubtitleSize);
     const bool fallen = stage.tween(2, [&](const Progress& at) {
         const double g = at.g();
         const double y = g * 2 + 100;
@@ -32,7 +32,7 @@ bool addSilver(frm_AppIntro& stage) {
 }
 
 bool meet(frm_AppIntro& stage) {
-    stage.caption("Reaktion von: Ag<SUP>+</SUP> und Cl<SUP>-</SUP>", kCaptionSize);
+    stage.subtitle("Reaktion von: Ag<SUP>+</SUP> und Cl<SUP>-</SUP>", kSubtitleSize);
     return stage.tween(1, [&](const Progress& at) {
         const double u = at.g() * 0.35;
         particle(stage, u + 200, 300, "fällung\\cl");
@@ -58,7 +58,7 @@ bool sink(frm_AppIntro& stage) {
 void playPrecipitation(frm_AppIntro& stage) {
     setStage(stage, kFrame);
     if (showChloride(stage) && addSilver(stage) && meet(stage) && sink(stage)) {
-        stage.caption("Das gebildete Silberchlorid setzt sich als Bodenkörper unten ab", 20);
+        stage.subtitle("Das gebildete Silberchlorid setzt sich als Bodenkörper unten ab", 20);
         stage.hWaitClick();
     }
 }

@@ -7,7 +7,7 @@ class frm_AppIntro;
 
 inline constexpr double kFormulaZoom = 65; // percent, of the formula pictures
 inline constexpr double kParticleZoom = 100;
-inline constexpr double kCaptionSize = 30; // points
+inline constexpr double kSubtitleSize = 30; // points
 
 inline constexpr const char* kCollideSound = "sounds\\collide.wav";
 inline constexpr const char* kReactionSound = "sounds\\ex.wav";

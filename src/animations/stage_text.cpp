@@ -148,7 +148,7 @@ void frm_AppIntro::title(double x, const std::string& text, double size, Anchor 
     hPrint(x, 24, text, {.size = size, .color = palette(15), .anchor = anchor});
 }
 
-void frm_AppIntro::caption(const std::string& text, double size) {
+void frm_AppIntro::subtitle(const std::string& text, double size) {
     hPrint(400, 500, text, {.size = size, .anchor = Anchor::Centre, .rich = true});
 }
 

@@ -175,7 +175,7 @@ TEST_F(StageFrame, DrawsPanelSpritesAndTextInThisOrder) {
     stage.ShowPanel = true;
     stage.hSprite(100, 100, 100, "a\\two");
     stage.hSprite(200, 100, 100, "a\\one");
-    stage.caption("x<SUB>2</SUB>");
+    stage.subtitle("x<SUB>2</SUB>");
     paper.Clear();
     stage.hRender();
     EXPECT_EQ(paper.order(), "bllllsstt");
@@ -319,7 +319,7 @@ class StageForm : public StageTest {};
 
 TEST_F(StageForm, TakesTheWholeScreen) {
     EXPECT_EQ(stage.name(), "frm_AppIntro");
-    EXPECT_EQ(static_cast<const Form&>(stage).caption(), "Intro Quendal");
+    EXPECT_EQ(stage.caption(), "Intro Quendal");
     EXPECT_EQ(stage.windowState(), WindowState::Maximised);
     EXPECT_TRUE(stage.frameless());
     EXPECT_TRUE(stage.scalesItself());

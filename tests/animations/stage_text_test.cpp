@@ -284,11 +284,11 @@ TEST_F(StageText, OfPlainKindLeavesTheRichOne) {
 
 TEST_F(StageText, OfACaptionStandsAtTheFootOfThePanel) {
     open();
-    stage.caption("Keine Rückreaktion!");
+    stage.subtitle("Keine Rückreaktion!");
     EXPECT_EQ((stage.LastText.Left + stage.LastText.Right) / 2, 400);
     EXPECT_EQ((stage.LastText.Top + stage.LastText.Bottom) / 2, 500);
     EXPECT_NEAR(texts()[0].font.size, 20 * 96 / 72.0, 1e-9);
-    stage.caption("A", 30);
+    stage.subtitle("A", 30);
     EXPECT_NEAR(texts()[1].font.size, 27, 1e-9);
     EXPECT_EQ(texts()[1].color, palette(15));
 }
@@ -318,7 +318,7 @@ TEST_F(StageText, IsReadOut) {
     stage.title(432, "wie: pH=-log c(Hµ3|O^+|)", 20, Anchor::Centre);
     stage.hRender();
     EXPECT_EQ(stage.pic_Stage.accessibleName(), "wie: pH=-log c(H3O+)");
-    stage.caption("H<SUB>2</SUB>O -> H<SUP>+</SUP>");
+    stage.subtitle("H<SUB>2</SUB>O -> H<SUP>+</SUP>");
     stage.hRender();
     EXPECT_EQ(stage.pic_Stage.accessibleName(), "wie: pH=-log c(H3O+) H2O → H+");
 }

@@ -131,7 +131,7 @@ class StageWait : public StageTest {};
 TEST_F(StageWait, ShowsTheStageAndThenTheFooter) {
     open();
     stage.ShowPanel = true;
-    stage.caption("x");
+    stage.subtitle("x");
     paper.Clear();
     answerClick();
     stage.hWaitClick();
