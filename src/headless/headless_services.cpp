@@ -118,7 +118,7 @@ PicturePtr SizeOnlyGraphics::LoadPicture(const std::string& path) {
 }
 
 PicturePtr SizeOnlyGraphics::Scaled(const PicturePtr& picture, int width, int height) {
-    const bool size = isPictureSide(width) && isPictureSide(height);
+    const bool size = isPictureSize(width, height);
     return picture != nullptr && size ? sizeOnlyPicture(width, height) : nullptr;
 }
 

@@ -75,7 +75,9 @@ std::optional<PlaceableHead> placeableHead(std::string_view bytes) {
                              .bottom = signedAt(bytes, 12),
                              .unitsPerInch = static_cast<int>(wordAt(bytes, 14))};
     const Size size = head.size();
-    return isSide(size.width) && isSide(size.height) ? std::optional(head) : std::nullopt;
+    const bool fits = isSide(size.width) && isSide(size.height) &&
+                      size.width * size.height <= kLargestPictureArea;
+    return fits ? std::optional(head) : std::nullopt;
 }
 
 } // namespace quendal

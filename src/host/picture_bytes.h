@@ -16,6 +16,14 @@ constexpr bool isPictureSide(int px) {
     return px > 0 && px <= kLargestPictureSide;
 }
 
+// A picture beyond it is taken for broken too: more than any screen shows, 48 MB in memory.
+inline constexpr double kLargestPictureArea = 12e6; // px
+
+constexpr bool isPictureSize(int width, int height) {
+    return isPictureSide(width) && isPictureSide(height) &&
+           static_cast<double>(width) * height <= kLargestPictureArea;
+}
+
 // Whole px of a drawing's side; even the smallest has one.
 inline int wholePx(double side) {
     return std::max(1, static_cast<int>(std::lround(side)));
@@ -48,7 +56,7 @@ inline constexpr std::size_t kMetafileHeadSize = 18;  // bytes, of the plain hea
 // Begins as a placeable metafile does.
 bool isPlaceable(std::string_view bytes);
 
-// Nullopt for other formats, for a box that is empty, larger than kLargestPictureSide or without
+// Nullopt for other formats, for a box that is empty, larger than a picture may be or without
 // units, and for a file that is cut short: its records, one behind the other, don't lead to the one
 // that ends a metafile. What stands in the records isn't looked at, nor what follows the last, nor
 // the checksum, which many writers get wrong.

@@ -85,6 +85,19 @@ TEST_F(SpriteFiles, ScaledPicturesHaveTheSizeAskedFor) {
               renderSprite(drawingOf(richWmf()), {300, 150}));
 }
 
+TEST_F(SpriteFiles, NothingLargerThanAnyScreenIsPainted) {
+    std::vector<std::string> lines;
+    const LogSink before =
+        exchangeLogSink([&](std::string_view line) { lines.emplace_back(line); });
+    Graphics& graphics = CoreLib().Graphics;
+    EXPECT_EQ(graphics.LoadPicture(write("g.wmf", WmfWriter(4790, 6390).bytes())), nullptr);
+    const PicturePtr large = graphics.LoadPicture(write("h.wmf", WmfWriter(3000, 4000).bytes()));
+    EXPECT_NE(large, nullptr);
+    EXPECT_EQ(graphics.Scaled(large, 4000, 4000), nullptr);
+    exchangeLogSink(before);
+    EXPECT_EQ(lines.size(), 2U);
+}
+
 TEST_F(SpriteFiles, AScaledSpriteIsCopiedWithoutAnotherCopy) {
     const PicturePtr sprite = CoreLib().Graphics.LoadPicture(write("d.wmf", richWmf().bytes()));
     const PicturePtr scaled = CoreLib().Graphics.Scaled(sprite, 300, 150);

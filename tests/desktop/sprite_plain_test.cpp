@@ -167,6 +167,23 @@ WmfDrawing hostile(int style, int width, int extent) {
     return drawingOf(writer);
 }
 
+// One line through the middle after the other: in the middle row all of them change places.
+TEST(Sprite, AStarOfManyThousandLinesEndsSoon) {
+    WmfDrawing drawing{.size = {342, 51}};
+    std::vector<Point> star;
+    constexpr int kLines = 40000;
+    for (int i = 0; i < kLines; ++i) {
+        const double x = 342.0 * i / kLines;
+        star.push_back({x, 0});
+        star.push_back({342 - x, 51});
+    }
+    drawing.shapes.push_back({.form = WmfPolygon{.rings = {star}}, .fill = Color{255, 0, 0}});
+    const auto start = std::chrono::steady_clock::now();
+    renderSprite(drawing, {342, 51});
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    EXPECT_LT(taken.count(), 5);
+}
+
 TEST(Sprite, HostileDrawingsEndSoon) {
     struct Case {
         int style;

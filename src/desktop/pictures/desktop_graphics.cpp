@@ -53,7 +53,11 @@ PicturePtr DesktopGraphics::LoadPicture(const std::string& path) {
 
 PicturePtr DesktopGraphics::Scaled(const PicturePtr& picture, int width, int height) {
     const auto* known = dynamic_cast<const DesktopPicture*>(picture.get());
-    if (known == nullptr || !isPictureSide(width) || !isPictureSide(height)) {
+    if (known == nullptr) {
+        return nullptr;
+    }
+    if (!isPictureSize(width, height)) {
+        logLine("picture too large: " + std::to_string(width) + " x " + std::to_string(height));
         return nullptr;
     }
     return std::make_shared<DesktopPicture>(known->inSize({width, height}));

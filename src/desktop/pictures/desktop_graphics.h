@@ -13,7 +13,7 @@ class DesktopGraphics final : public Graphics {
     // A twin three times the size is taken from the subfolder "x3" beside the file. A placeable
     // metafile becomes a picture of its natural size that is painted anew at other sizes.
     PicturePtr LoadPicture(const std::string& path) override;
-    // Null beyond kLargestPictureSide too.
+    // Null and one logged line for a size that no picture may have, too.
     PicturePtr Scaled(const PicturePtr& picture, int width, int height) override;
 
   private:

@@ -18,8 +18,10 @@ namespace {
 
 constexpr std::size_t kKeptSizes = 3;
 constexpr std::size_t kKeptCuts = 4;
-constexpr double kTwinFrom = 1.05; // below it the file itself has all the detail
-constexpr int kDrawingTwin = 2;    // size of the twin of a drawing
+constexpr int kLargestTwin = 4;       // times the file's own size
+constexpr std::size_t kKeptTwins = 2; // 8 MB each; a step between two pictures needs both
+constexpr double kTwinFrom = 1.05;    // below it the file itself has all the detail
+constexpr int kDrawingTwin = 2;       // size of the twin of a drawing
 constexpr double kHalfFrom =
     0.5; // smooth copies look at two pixels only: beyond it they'd skip some
 
@@ -54,7 +56,34 @@ void makeRoom(std::vector<Kept>& kept, std::size_t most) {
     }
 }
 
+// The pictures whose twins are kept, the one that was asked for last at the end.
+std::vector<const DesktopPicture*>& twinKeepers() {
+    static std::vector<const DesktopPicture*> keepers;
+    return keepers;
+}
+
 } // namespace
+
+DesktopPicture::~DesktopPicture() {
+    std::erase(twinKeepers(), this);
+}
+
+void DesktopPicture::keepTwin() const {
+    std::vector<const DesktopPicture*>& keepers = twinKeepers();
+    std::erase(keepers, this);
+    if (twin_.isNull()) {
+        twin_ = loadTwin();
+    }
+    // One that came with the picture can't be loaded again.
+    if (twin_.isNull() || twinFile_.isEmpty()) {
+        return;
+    }
+    if (keepers.size() >= kKeptTwins) {
+        keepers.front()->twin_ = QImage();
+        keepers.erase(keepers.begin());
+    }
+    keepers.push_back(this);
+}
 
 DesktopPicture::DesktopPicture(QImage image, QString twin)
     : size_(image.size()), image_(readyImage(image)), twinFile_(std::move(twin)) {}
@@ -81,7 +110,8 @@ QImage decodePicture(const std::string& bytes) {
     QBuffer buffer(&data);
     QImageReader reader(&buffer);
     const QSize size = reader.size();
-    if (size.width() > kLargestPictureSide || size.height() > kLargestPictureSide) {
+    // Some formats don't tell their size before they are read.
+    if (!size.isEmpty() && !isPictureSize(size.width(), size.height())) {
         return {};
     }
     return reader.read();
@@ -96,9 +126,9 @@ const QImage& DesktopPicture::own() const {
 
 QImage DesktopPicture::loadTwin() const {
     if (twin_.isNull() && drawing_ != nullptr) {
-        return painted(
-            *drawing_,
-            (kDrawingTwin * size_).boundedTo({kLargestPictureSide, kLargestPictureSide}));
+        const QSize twin =
+            (kDrawingTwin * size_).boundedTo({kLargestPictureSide, kLargestPictureSide});
+        return isPictureSize(twin.width(), twin.height()) ? painted(*drawing_, twin) : QImage();
     }
     if (!twin_.isNull() || twinFile_.isEmpty()) {
         return twin_;
@@ -106,7 +136,8 @@ QImage DesktopPicture::loadTwin() const {
     QFile file(twinFile_);
     const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     const QImage twin = decodePicture(bytes.toStdString());
-    if (twin.isNull()) {
+    const QSize most = kLargestTwin * size_;
+    if (twin.isNull() || twin.width() > most.width() || twin.height() > most.height()) {
         logLine("picture broken: " + twinFile_.toStdString());
         twinFile_.clear(); // the file itself has to do; said once
         return {};
@@ -155,8 +186,8 @@ const QImage& DesktopPicture::half(std::size_t times) const {
 }
 
 DesktopPicture::Detail DesktopPicture::detail(const QRectF& from, double scale) const {
-    if (scale > kTwinFrom && twin_.isNull()) {
-        twin_ = loadTwin();
+    if (scale > kTwinFrom) {
+        keepTwin();
     }
     std::size_t halvings = 0;
     for (double left = scale; left < kHalfFrom && halvings < 16; left *= 2) {

@@ -23,6 +23,10 @@ class DesktopPicture final : public Picture {
   public:
     // `twin` is the file with the same picture three times its size, empty when there is none.
     explicit DesktopPicture(QImage image, QString twin = {});
+    ~DesktopPicture() override;
+    DesktopPicture(const DesktopPicture&) = delete;
+    DesktopPicture& operator=(const DesktopPicture&) = delete;
+
     // `sharper` is the same picture in more pixels.
     static std::shared_ptr<const DesktopPicture> withDetail(QImage image, const QImage& sharper);
 
@@ -42,7 +46,7 @@ class DesktopPicture final : public Picture {
     QImage inSize(QSize devicePixels) const;
 
     // The picture in about as many pixels as `scale` asks for, and the px of `from` in it: the file
-    // itself, its twin, or smaller.
+    // itself, its twin, or smaller. Good until the next picture is asked.
     struct Detail {
         const QImage& image;
         QRectF from;
@@ -66,6 +70,9 @@ class DesktopPicture final : public Picture {
     // The picture in its own size; a drawing isn't painted before somebody asks.
     const QImage& own() const;
     QImage loadTwin() const;
+    // The twin at hand, and those that nobody has asked for lately gone: a few of them would be all
+    // the memory that the program may take.
+    void keepTwin() const;
     QImage source(double scale) const;
     const QImage& half(std::size_t times) const;
     QImage makeCut(const QRectF& from, QSize size, RasterOp operation) const;
@@ -74,7 +81,7 @@ class DesktopPicture final : public Picture {
     std::shared_ptr<const WmfDrawing> drawing_; // null for a picture of pixels
     mutable QImage image_;
     mutable QString twinFile_; // emptied when the file turns out to be broken
-    mutable QImage twin_;      // once it was needed for more than one copy
+    mutable QImage twin_;      // while it is needed for more than one copy
     mutable std::vector<QImage> halves_;
     mutable std::vector<Prepared> prepared_;
     mutable std::vector<Cut> cuts_;

@@ -68,7 +68,7 @@ std::optional<std::vector<SpriteArea>> areasOf(const WmfDrawing& drawing, const 
 } // namespace
 
 QImage renderSprite(const WmfDrawing& drawing, QSize size) {
-    if (!isPictureSide(size.width()) || !isPictureSide(size.height())) {
+    if (!isPictureSize(size.width(), size.height())) {
         return {};
     }
     const Rect whole{0, 0, double(size.width()) * kFineness, double(size.height()) * kFineness};

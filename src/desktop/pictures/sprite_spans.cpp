@@ -11,8 +11,8 @@ namespace {
 constexpr std::uint32_t kWhitePixel = 0xffffffffU;
 constexpr int kFarthestLine = 1 << 20; // beyond any picture
 // Crossings of outlines with lines, and what is moved for them, that a picture may have. The
-// richest sprite of ours at 3840 x 2160 has a fiftieth of it.
-constexpr std::size_t kMostWork = 100'000'000;
+// richest sprite of ours at 3840 x 2160 has a twentieth of it.
+constexpr std::size_t kMostWork = 40'000'000;
 constexpr std::size_t kGapsForOne = 16; // looked at in the time of one crossing
 
 // The first pixel whose middle isn't left of (or above) `place`. Without std::ceil, which is a call
@@ -195,15 +195,24 @@ class SpriteAreaRows {
         sort(active_.size() - before);
     }
 
+    void sortAnew() {
+        std::sort(active_.begin(), active_.end(),
+                  [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
+        moved_ += active_.size();
+    }
+
     // From one line to the next hardly any change places, but for `added` new ones.
     void sort(std::size_t added) {
-        constexpr std::size_t kFew = 8;
+        constexpr std::size_t kFew = 8; // moves for each crossing
         if (added > kFew) {
-            std::sort(active_.begin(), active_.end(),
-                      [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
+            sortAnew();
             return;
         }
         for (std::size_t i = 1; i < active_.size(); ++i) {
+            if (moved_ > kFew * active_.size()) {
+                sortAnew();
+                return;
+            }
             for (std::size_t k = i; k > 0 && active_[k].x < active_[k - 1].x; --k) {
                 std::swap(active_[k], active_[k - 1]);
                 ++moved_;
