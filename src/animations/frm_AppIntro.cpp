@@ -3,6 +3,7 @@
 #include "animations/scripts.h"
 #include "animations/stage_layout.h"
 #include "host/clock.h"
+#include "host/graphics.h"
 #include "host/number_service.h"
 #include "host/path_service.h"
 #include "host/random_source.h"
@@ -50,6 +51,7 @@ void frm_AppIntro::Form_Load() {
 
 void frm_AppIntro::Form_Unload() {
     Aborted = true; // for a script that is still on the stack
+    CoreLib().Graphics.forgetDetail();
 }
 
 bool frm_AppIntro::Form_QueryUnload(UnloadReason reason) {

@@ -22,6 +22,8 @@ class Graphics {
     // The picture in this many pixels, for whoever shows it at that size again and again; null for
     // null and for a size without width or height.
     virtual PicturePtr Scaled(const PicturePtr& picture, int width, int height) = 0;
+    // Whoever showed large pictures is done: what is kept only to show them sharp may go.
+    virtual void forgetDetail() {}
 };
 
 } // namespace quendal

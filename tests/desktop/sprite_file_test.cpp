@@ -98,6 +98,28 @@ TEST_F(SpriteFiles, NothingLargerThanAnyScreenIsPainted) {
     EXPECT_EQ(lines.size(), 2U);
 }
 
+TEST_F(SpriteFiles, TheTwinsOfTwoPicturesAreKeptUntilNobodyNeedsThem) {
+    std::vector<PicturePtr> pictures;
+    for (const char* name : {"win.gif", "bad.gif", "lens.gif"}) {
+        pictures.push_back(CoreLib().Graphics.LoadPicture(HostApp().PathService.DataPath() + name));
+        ASSERT_NE(pictures.back(), nullptr);
+    }
+    const auto sharp = [](const PicturePtr& picture) {
+        const QRectF whole(0, 0, picture->width(), picture->height());
+        return pixels(picture).detail(whole, 3).image.width();
+    };
+    CoreLib().Graphics.forgetDetail();
+    for (const PicturePtr& picture : pictures) {
+        EXPECT_EQ(sharp(picture), 3 * picture->width());
+    }
+    EXPECT_EQ(DesktopPicture::keptTwins(), 2U);
+    pictures.pop_back();
+    EXPECT_EQ(DesktopPicture::keptTwins(), 1U);
+    CoreLib().Graphics.forgetDetail();
+    EXPECT_EQ(DesktopPicture::keptTwins(), 0U);
+    EXPECT_EQ(sharp(pictures.front()), 3 * pictures.front()->width());
+}
+
 TEST_F(SpriteFiles, AScaledSpriteIsCopiedWithoutAnotherCopy) {
     const PicturePtr sprite = CoreLib().Graphics.LoadPicture(write("d.wmf", richWmf().bytes()));
     const PicturePtr scaled = CoreLib().Graphics.Scaled(sprite, 300, 150);

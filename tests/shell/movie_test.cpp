@@ -108,9 +108,10 @@ TEST_F(MovieFrame, ShowsTheTriangleOnceInLettersAndOnceInWords) {
     const std::array<std::array<const char*, 3>, 2> names{
         {{"n", "c", "V"}, {"Stoffmenge", "Konzentration", "Volumen"}}};
     for (const int pass : {kLetters, kWords}) {
-        ASSERT_EQ(written(pass).size(), kTerms);
+        const auto marks = written(pass);
+        ASSERT_EQ(marks.size(), kTerms);
         for (std::size_t i = 0; i < kTerms; ++i) {
-            const auto& mark = written(pass)[i];
+            const auto& mark = marks[i];
             EXPECT_EQ(mark.text, names[static_cast<std::size_t>(pass)][i]);
             EXPECT_EQ(mark.font, kMovieFont);
             EXPECT_EQ(mark.color, kBlack);

@@ -51,6 +51,10 @@ PicturePtr DesktopGraphics::LoadPicture(const std::string& path) {
     return std::make_shared<DesktopPicture>(std::move(image), twinFile);
 }
 
+void DesktopGraphics::forgetDetail() {
+    DesktopPicture::forgetTwins();
+}
+
 PicturePtr DesktopGraphics::Scaled(const PicturePtr& picture, int width, int height) {
     const auto* known = dynamic_cast<const DesktopPicture*>(picture.get());
     if (known == nullptr) {

@@ -14,6 +14,7 @@ class DesktopGraphics final : public Graphics {
     // metafile becomes a picture of its natural size that is painted anew at other sizes.
     PicturePtr LoadPicture(const std::string& path) override;
     // Null and one logged line for a size that no picture may have, too.
+    void forgetDetail() override;
     PicturePtr Scaled(const PicturePtr& picture, int width, int height) override;
 
   private:

@@ -68,6 +68,17 @@ DesktopPicture::~DesktopPicture() {
     std::erase(twinKeepers(), this);
 }
 
+void DesktopPicture::forgetTwins() {
+    for (const DesktopPicture* keeper : twinKeepers()) {
+        keeper->twin_ = QImage();
+    }
+    twinKeepers().clear();
+}
+
+std::size_t DesktopPicture::keptTwins() {
+    return twinKeepers().size();
+}
+
 void DesktopPicture::keepTwin() const {
     std::vector<const DesktopPicture*>& keepers = twinKeepers();
     std::erase(keepers, this);

@@ -56,6 +56,10 @@ class DesktopPicture final : public Picture {
     // again.
     const QImage& cut(const QRectF& from, QSize devicePixels, RasterOp operation) const;
 
+    // The twins of all pictures, which are loaded again when somebody needs them.
+    static void forgetTwins();
+    static std::size_t keptTwins();
+
   private:
     struct Prepared {
         QSize size;
