@@ -111,7 +111,7 @@ struct WmfShape {
 };
 
 struct WmfDrawing {
-    Size size; // design px, more than 0 and at most kLargestPictureSide
+    Size size; // design px, more than 0 and no more than a picture may have
     std::vector<WmfShape> shapes;
 };
 

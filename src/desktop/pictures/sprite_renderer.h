@@ -9,8 +9,8 @@ namespace quendal {
 
 // The whole drawing in this many pixels, on a white ground and with soft edges; what was painted in
 // the key colour (255, 0, 255) is transparent, without a trace of it at the edges. Null for a size
-// without width or height or beyond kLargestPictureSide, and for a drawing so intricate that it
-// would take seconds.
+// that no picture may have (isPictureSize), and for a drawing so intricate that it would take
+// seconds.
 QImage renderSprite(const WmfDrawing& drawing, QSize devicePixels);
 
 } // namespace quendal
