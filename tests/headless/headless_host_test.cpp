@@ -7,11 +7,11 @@
 #include "host/log.h"
 #include "host/screen_capture.h"
 #include "host/system_info.h"
+#include "support/temporary_name.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 
 namespace quendal::test {
@@ -156,7 +156,7 @@ TEST(HeadlessHost, SurfacesGoWithTheHost) {
 class PictureFile {
   public:
     explicit PictureFile(const std::string& bytes)
-        : name_((std::filesystem::temp_directory_path() / "quendal_picture_test.gif").string()) {
+        : name_(test::temporaryName("quendal-picture", ".gif").string()) {
         std::ofstream(name_, std::ios::binary) << bytes;
     }
     ~PictureFile() { std::remove(name_.c_str()); }

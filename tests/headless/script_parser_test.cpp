@@ -1,5 +1,6 @@
 #include "script/script.h"
 #include "script/script_words.h"
+#include "support/temporary_name.h"
 
 #include <gtest/gtest.h>
 
@@ -249,7 +250,7 @@ TEST(ScriptParser, TellsOfAMissingFile) {
 
 TEST(ScriptParser, FindsADataFolderBesideTheScript) {
     namespace fs = std::filesystem;
-    const fs::path home = fs::temp_directory_path() / "quendal_script_parser_test";
+    const fs::path home = test::temporaryName("quendal-scripts");
     fs::create_directories(home / "lab_data");
     const std::string file = (home / "a.qs").string();
     std::ofstream(file) << "data lab_data\nstart\n";

@@ -6,9 +6,9 @@
 #include "host/window_system.h"
 #include "script/script_program.h"
 #include "shell/single_forms.h"
+#include "support/temporary_name.h"
 
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 
 namespace quendal::test {
@@ -55,7 +55,7 @@ ScriptProgram choose(const ScriptSettings& settings, std::string& fault) {
 class ScriptFile {
   public:
     explicit ScriptFile(const std::string& text)
-        : name_((std::filesystem::temp_directory_path() / "quendal_single_form.qs").string()) {
+        : name_(temporaryName("quendal-form", ".qs").string()) {
         std::ofstream(name_) << text;
     }
     ~ScriptFile() { std::remove(name_.c_str()); }

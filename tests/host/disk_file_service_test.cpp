@@ -1,7 +1,7 @@
 #include "host/disk_file_service.h"
+#include "support/temporary_name.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 class DiskFiles : public testing::Test {
   protected:
-    DiskFiles() : root(fs::temp_directory_path() / ("quendal-files-" + std::to_string(getpid()))) {
+    DiskFiles() : root(test::temporaryName("quendal-files")) {
         fs::remove_all(root);
         fs::create_directories(root);
     }
