@@ -2,7 +2,7 @@
 
 from animation_film import FRAME, SECOND
 from animation_stage import DEFAULT_SCREEN
-from learner import word
+from script_writer import ScriptWriter
 from texts import quoted
 
 START = "frm_DialogStartup"
@@ -10,33 +10,16 @@ STAGE = "frm_AppIntro"
 TAB = 1
 
 
-class Viewer:
+class Viewer(ScriptWriter):
     def __init__(self, title, *, screen=DEFAULT_SCREEN, before_start=(), hears=True):
+        super().__init__(title)
         self.screen = screen
         self.hears = hears
         self.heard = []  # sounds asked about since the film began
         self.now = 0  # µs since the last click
         self.missed = 0  # frames that the stage drew more than it would have without a break
-        self.lines = ["# " + line for line in title.split("\n")]
         size = [] if screen == DEFAULT_SCREEN else [f"size {screen}"]
         self.say("name Mia", *size, *before_start, "start")
-
-    def say(self, *lines):
-        self.lines += lines
-
-    def expect(self, thing, value):
-        self.say(f"expect {thing} == {word(value)}")
-
-    def expect_near(self, thing, value, tolerance):
-        self.say(f"expect {thing} ~= {value!r} {tolerance!r}")
-
-    def visible(self, *controls):
-        for control in controls:
-            self.expect(control + ".visible", True)
-
-    def hidden(self, *controls):
-        for control in controls:
-            self.expect(control + ".visible", False)
 
     def wait(self, seconds):
         self.say(f"wait {seconds:g}")

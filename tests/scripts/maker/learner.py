@@ -3,26 +3,17 @@
 from kinds import DEMO_CONCENTRATION, LAST_VOLUME, REQUIRED_POINTS, WEAK
 from models import mixture_of
 from number_texts import fixed, number
+from script_writer import ScriptWriter
 from steps import answers
 from texts import MARKS, POINT_DONE, quoted
 
-TOLERANCE = 1e-12
 
-
-def word(value):
-    """A value as it stands in a script line: quoted where it has to be."""
-    if isinstance(value, bool):
-        return "true" if value else "false"
-    text = str(value)
-    is_comment = text.startswith("#") and len(text) != len("#rrggbb")
-    return quoted(text) if text == "" or " " in text or '"' in text or is_comment else text
-
-
-class Learner:
+class Learner(ScriptWriter):
     leaving_result = "click bar_Buttons"
 
     def __init__(self, kind, concentration, title, *, required=False, demo=False, brief=False,
                  before_start=(), sign=",", hears=True):
+        super().__init__(title)
         self.kind = kind
         self.concentration = DEMO_CONCENTRATION if demo else concentration
         self.required = required
@@ -30,7 +21,6 @@ class Learner:
         self.brief = brief  # looks at the numbers more than at the form
         self.sign = sign
         self.hears = hears
-        self.lines = ["# " + line for line in title.split("\n")]
         self.say("name Mia", *before_start, *(["locale point"] if sign == "." else []), "start")
         self.begin_anew()
 
@@ -38,26 +28,6 @@ class Learner:
         self.added = 0  # mL
         self.points = self.wrong = self.given = self.helped = 0
         self.sample_kept = False
-
-    def say(self, *lines):
-        self.lines += lines
-
-    def expect(self, thing, value):
-        self.say(f"expect {thing} == {word(value)}")
-
-    def expect_text(self, thing, text):
-        self.say(f"expect {thing} == {quoted(text)}")
-
-    def expect_near(self, thing, value, tolerance=TOLERANCE):
-        self.say(f"expect {thing} ~= {value!r} {tolerance!r}")
-
-    def visible(self, *controls):
-        for control in controls:
-            self.expect(control + ".visible", True)
-
-    def hidden(self, *controls):
-        for control in controls:
-            self.expect(control + ".visible", False)
 
     def expect_signal(self, which):
         if self.hears:
