@@ -106,8 +106,9 @@ PicturePtr frm_AppIntro::powerOfTen(int number) {
     if (pictures.has(number)) {
         return pictures(number).picture();
     }
-    const std::string text = std::to_string(number);
-    logOnce(text, "picture missing: number " + text + " of phn\\f*.gif");
+    if (pictures.last() == 0) { // a single one has been told of where they were loaded
+        logOnce("phn", "pictures missing: phn\\f*.gif");
+    }
     return nullptr;
 }
 

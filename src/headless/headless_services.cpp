@@ -77,20 +77,9 @@ PicturePtr sizeOnlyPicture(int width, int height) {
 
 namespace {
 
-// The logical screen of a GIF: two 16-bit numbers behind the signature, low byte first.
 PicturePtr readGifSize(std::string_view bytes) {
-    constexpr std::size_t kHeaderSize = 13;
-    const bool gif = bytes.starts_with("GIF87a") || bytes.starts_with("GIF89a");
-    if (!gif || bytes.size() < kHeaderSize || isGifCutShort(bytes)) {
-        return nullptr;
-    }
-    const auto number = [&](std::size_t at) {
-        return static_cast<unsigned char>(bytes[at]) +
-               256 * static_cast<unsigned char>(bytes[at + 1]);
-    };
-    const int width = number(6);
-    const int height = number(8);
-    return width > 0 && height > 0 ? sizeOnlyPicture(width, height) : nullptr;
+    const auto size = gifScreen(bytes);
+    return size ? sizeOnlyPicture(wholePx(size->width), wholePx(size->height)) : nullptr;
 }
 
 PicturePtr readSpriteSize(std::string_view bytes) {
@@ -112,7 +101,7 @@ PicturePtr SizeOnlyGraphics::LoadPicture(const std::string& path) {
         picture = readSpriteSize(*bytes);
     }
     if (picture == nullptr) {
-        logLine("picture " + path + (bytes ? " is broken" : " is missing"));
+        logLine((bytes ? "picture broken: " : "picture missing: ") + path);
     }
     return picture;
 }

@@ -1,5 +1,6 @@
 #include "host/chart.h"
 
+#include "host/chart_words.h"
 #include "host/file_service.h"
 #include "host/log.h"
 #include "host/pictures.h"
@@ -78,11 +79,13 @@ void ChartView::RenderTo(PictureBox& picture, double, double, double scale) {
     targetLife_ = picture.life();
     scale_ = scale;
     document_.painter().render(*this, picture, scale);
+    picture.setDescription(chartWords(*this));
 }
 
 void ChartView::Redraw(int) {
     if (!targetLife_.expired()) {
         document_.painter().render(*this, *target_, scale_);
+        target_->setDescription(chartWords(*this));
     }
 }
 
@@ -145,6 +148,9 @@ ChartDocument& ChartDocuments::Open(const std::string& fileName, int, int, int) 
     std::string fault = "Die Datei fehlt oder ist nicht lesbar.";
     if (!text || !readCurve(*text, document, fault)) {
         logLine("Kurve " + fileName + ": " + fault);
+    } else if (!text->ends_with('\n')) { // what was cut may still read as a curve
+        logLine("Kurve " + fileName +
+                ": Die letzte Zeile hört mittendrin auf; vielleicht fehlt ein Teil der Datei.");
     }
     return document;
 }

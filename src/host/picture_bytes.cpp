@@ -52,6 +52,18 @@ bool isSide(double length) {
 
 } // namespace
 
+std::optional<Size> gifScreen(std::string_view bytes) {
+    constexpr std::size_t kHeaderSize = 13; // the signature, and the screen behind it
+    constexpr std::size_t kWidthAt = 6;
+    if (!isGif(bytes) || bytes.size() < kHeaderSize || isGifCutShort(bytes)) {
+        return std::nullopt;
+    }
+    const int width = static_cast<int>(wordAt(bytes, kWidthAt));
+    const int height = static_cast<int>(wordAt(bytes, kWidthAt + kWord));
+    return isPictureSize(width, height) ? std::optional(Size{double(width), double(height)})
+                                        : std::nullopt;
+}
+
 Size PlaceableHead::size() const {
     const auto px = [&](int from, int to) {
         return unitsPerInch > 0 ? std::abs(to - from) * kPxPerInch / unitsPerInch : 0;

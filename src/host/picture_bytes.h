@@ -37,6 +37,16 @@ inline bool isGifCutShort(std::string_view bytes) {
     return bytes.starts_with("GIF8") && bytes[last] != kTrailer;
 }
 
+// The logical screen of a GIF, on which its images lie; it is as large as the picture, in px.
+// Nullopt for other formats, for a file that is cut short, and for a screen that is empty or larger
+// than a picture may be.
+std::optional<Size> gifScreen(std::string_view bytes);
+
+// Begins as a GIF does.
+inline bool isGif(std::string_view bytes) {
+    return bytes.starts_with("GIF87a") || bytes.starts_with("GIF89a");
+}
+
 // The head of a placeable metafile: the box that the drawing fills, and its units for one inch.
 // How the box lies is left as it stands: right may be less than left.
 struct PlaceableHead {

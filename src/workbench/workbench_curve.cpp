@@ -3,6 +3,7 @@
 
 #include "host/chart.h"
 #include "host/file_service.h"
+#include "host/log.h"
 #include "host/message_box.h"
 #include "host/number_service.h"
 #include "host/path_service.h"
@@ -41,6 +42,7 @@ void Workbench::openCurve() {
     const bool found = CoreLib().FileService.FileExists(folder + name);
     ChartDocument& curve = documents.Open(folder + (found ? name : kFallbackCurve), 0, 0, 0);
     if (!found) {
+        logLine("Kurve " + folder + name + ": Die Datei fehlt.");
         CoreLib().MessageBox.Ok(
             "Die Datei '" + name +
                 "' wurde nicht gefunden - zum Vergleich Deiner Werte kann ich daher leider nur die "

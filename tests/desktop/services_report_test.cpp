@@ -72,6 +72,24 @@ TEST_F(ReportTest, ProgressAndResultAreLinesOfTheirOwn) {
     EXPECT_TRUE(log_.lines.empty());
 }
 
+TEST_F(ReportTest, HalfALineSwallowsNoOther) {
+    const QString path = folder_.filePath("reports.jsonl");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("{\"time\":\"2026-");
+    file.close();
+    ReportFile reports(path);
+    reports.append({.learner = "Mia", .task = "", .event = "progress"});
+    reports.append({.learner = "Mia", .task = "", .event = "result"});
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_EQ(lines[0], "{\"time\":\"2026-");
+    EXPECT_TRUE(QJsonDocument::fromJson(lines[1]).isObject());
+    EXPECT_TRUE(QJsonDocument::fromJson(lines[2]).isObject());
+    EXPECT_TRUE(lines[3].isEmpty());
+}
+
 TEST_F(ReportTest, IsOnTheDiskAtOnceAndAppendsToWhatIsThere) {
     const QString path = folder_.filePath("r.jsonl");
     ReportFile(path).append({.event = "progress"});

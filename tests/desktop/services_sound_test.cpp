@@ -1,3 +1,4 @@
+#include "desktop/files/wav_check.h"
 #include "desktop/services/desktop_sound_bank.h"
 #include "desktop/services/observer_link.h"
 #include "host/disk_file_service.h"
@@ -45,6 +46,20 @@ TEST_F(SoundTest, WhatIsMissingIsReportedOnce) {
     }
     // Either the device or the file is missing; each has its one line.
     EXPECT_EQ(log_.lines.size(), 1U);
+}
+
+TEST_F(SoundTest, AFileThatIsCutShortIsNoSound) {
+    const std::string whole =
+        files_.read(QUENDAL_SOURCE_DIR "/data/sounds/collide.wav").value_or("");
+    EXPECT_EQ(wavFault(whole), "");
+    for (const std::size_t size : {whole.size() - 1, whole.size() / 2, std::size_t{40}}) {
+        EXPECT_EQ(wavFault(whole.substr(0, size)), "die Datei bricht mittendrin ab") << size;
+    }
+    EXPECT_EQ(wavFault(""), "das ist keine WAV-Datei");
+    std::string compressed = whole;
+    constexpr std::size_t kKindOfSamples = 20;
+    compressed[kKindOfSamples] = 2;
+    EXPECT_EQ(wavFault(compressed), "diese Art von WAV-Datei kennt das Programm nicht");
 }
 
 } // namespace

@@ -209,12 +209,13 @@ TEST(HeadlessHost, LogsPicturesThatAreMissingOrBroken) {
     Playground ground;
     int lines = 0;
     const LogSink before = exchangeLogSink([&](std::string_view) { ++lines; });
-    for (const std::string bytes : {"", "GIF89a", "GIF89a\x01\x01\x01\x01 cut short"}) {
+    for (const std::string bytes : {"", "GIF89a", "GIF89a\x01\x01\x01\x01 cut short",
+                                    "GIF89a\x10\x80\x10\x01 far too wide;"}) {
         const PictureFile file(bytes);
         EXPECT_EQ(CoreLib().Graphics.LoadPicture(file.name()), nullptr);
     }
     EXPECT_EQ(CoreLib().Graphics.LoadPicture("data/no_such_picture.gif"), nullptr);
-    EXPECT_EQ(lines, 4);
+    EXPECT_EQ(lines, 5);
     exchangeLogSink(before);
 }
 

@@ -2,7 +2,9 @@
 
 #include "host/log.h"
 
+#include <QLoggingCategory>
 #include <QStandardPaths>
+#include <QSvgRenderer>
 
 #include <algorithm>
 #include <array>
@@ -65,10 +67,17 @@ std::string nameIn(const std::string& path) {
     return name;
 }
 
+bool isDrawing(const std::string& bytes) {
+    return QSvgRenderer(QByteArray::fromStdString(bytes)).isValid();
+}
+
 } // namespace
 
 IconLibrary::IconLibrary(const FileService& files, std::string folder)
-    : files_(files), folder_(std::move(folder)) {
+    : files_(files), folder_(std::move(folder)),
+      folderThere_(files.FindFiles(folder_ + "*.svg").Count() > 0) {
+    // What it says of broken drawings names no file; loadOwn tells of them.
+    QLoggingCategory::setFilterRules("qt.svg.warning=false");
     // Not every window system says where the themes lie.
     const QStringList folders = QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
                                                           "icons", QStandardPaths::LocateDirectory);
@@ -76,24 +85,33 @@ IconLibrary::IconLibrary(const FileService& files, std::string folder)
     QIcon::setThemeName("breeze");
 }
 
-QIcon IconLibrary::load(const std::string& path) const {
+QIcon IconLibrary::loadOwn(const std::string& name) const {
+    const std::string file = folder_ + name + ".svg";
+    const auto bytes = files_.read(file);
+    if (bytes && isDrawing(*bytes)) {
+        return QIcon(QString::fromStdString(files_.realName(file)));
+    }
+    if (folderThere_) {
+        logLine((bytes ? "picture broken: " : "picture missing: ") + file);
+    }
+    return {};
+}
+
+const QIcon& IconLibrary::own(const std::string& name) {
+    const auto known = own_.find(name);
+    return known != own_.end() ? known->second : own_.emplace(name, loadOwn(name)).first->second;
+}
+
+QIcon IconLibrary::load(const std::string& path) {
     const std::string name = nameIn(path);
     const auto row = std::find_if(kIcons.begin(), kIcons.end(),
                                   [&](const IconRow& r) { return name == r.name; });
-    if (row != kIcons.end()) {
-        for (const char* ending : {".svg", ".png"}) {
-            const std::string file = folder_ + row->own + ending;
-            if (files_.FileExists(file)) {
-                return QIcon(QString::fromStdString(files_.realName(file)));
-            }
-        }
-        const QIcon themed = QIcon::fromTheme(row->theme);
-        if (!themed.isNull()) {
-            return themed;
-        }
+    if (row == kIcons.end()) {
+        logLine("icon missing: " + path);
+        return {};
     }
-    logLine("icon missing: " + path);
-    return {};
+    const QIcon& drawn = own(row->own);
+    return drawn.isNull() ? QIcon::fromTheme(row->theme) : drawn;
 }
 
 QIcon IconLibrary::icon(const std::string& path) {

@@ -1,5 +1,6 @@
 #include "desktop/services/desktop_sound_bank.h"
 
+#include "desktop/files/wav_check.h"
 #include "desktop/services/observer_link.h"
 #include "host/file_service.h"
 #include "host/host_observer.h"
@@ -16,7 +17,7 @@ namespace quendal {
 namespace {
 
 // More different sounds than the program has; beyond it the oldest names are forgotten.
-constexpr std::size_t kMostEffects = 64;
+constexpr std::size_t kMostSounds = 64;
 
 } // namespace
 
@@ -47,13 +48,16 @@ void DesktopSoundBank::play(const std::string& file, const std::string& told) {
     if (link_.observer != nullptr) {
         link_.observer->soundPlayed(told);
     }
-    if (!deviceThere()) {
+    // A file that is at fault is told of on a machine without a device too.
+    Sound& asked = sound(file);
+    if (!asked.playable || !deviceThere()) {
         return;
     }
-    // Also while it still loads: it then sounds as soon as it can. Nothing waits for that.
-    if (QSoundEffect* sound = effect(file); sound != nullptr) {
-        sound->play();
+    if (asked.effect == nullptr) {
+        asked.effect = makeEffect(file);
     }
+    // Also while it still loads: it then sounds as soon as it can. Nothing waits for that.
+    asked.effect->play();
 }
 
 // Asked at the first sound, since looking for devices takes its time at the start.
@@ -67,27 +71,41 @@ bool DesktopSoundBank::deviceThere() {
     return device_ == Device::There;
 }
 
-QSoundEffect* DesktopSoundBank::effect(const std::string& file) {
-    if (const auto known = effects_.find(file); known != effects_.end()) {
-        return known->second.get();
+DesktopSoundBank::Sound& DesktopSoundBank::sound(const std::string& file) {
+    if (const auto known = sounds_.find(file); known != sounds_.end()) {
+        return known->second;
     }
-    if (effects_.size() >= kMostEffects) {
-        effects_.clear();
+    if (sounds_.size() >= kMostSounds) {
+        sounds_.clear();
     }
-    auto& place = effects_[file];
-    if (!files_.FileExists(file)) {
-        logLine("Der Ton \"" + file + "\" fehlt.");
-        return nullptr;
+    Sound& made = sounds_[file];
+    made.playable = isPlayable(file);
+    return made;
+}
+
+bool DesktopSoundBank::isPlayable(const std::string& file) const {
+    const auto bytes = files_.read(file);
+    if (!bytes) {
+        logLine("Der Ton \"" + file + "\" fehlt oder ist nicht lesbar.");
+        return false;
     }
-    place = std::make_unique<QSoundEffect>();
-    place->setSource(QUrl::fromLocalFile(QString::fromStdString(files_.realName(file))));
-    QSoundEffect* made = place.get();
+    const std::string fault(wavFault(*bytes));
+    if (!fault.empty()) {
+        logLine("Der Ton \"" + file + "\" kann nicht gespielt werden: " + fault);
+    }
+    return fault.empty();
+}
+
+std::unique_ptr<QSoundEffect> DesktopSoundBank::makeEffect(const std::string& file) const {
+    auto effect = std::make_unique<QSoundEffect>();
+    effect->setSource(QUrl::fromLocalFile(QString::fromStdString(files_.realName(file))));
+    QSoundEffect* made = effect.get();
     QObject::connect(made, &QSoundEffect::statusChanged, made, [made, file] {
         if (made->status() == QSoundEffect::Error) {
             logLine("Der Ton \"" + file + "\" kann nicht gespielt werden.");
         }
     });
-    return made;
+    return effect;
 }
 
 } // namespace quendal

@@ -29,7 +29,13 @@ class DesktopSoundBank final : public SoundBank {
     // `told` is what an observer hears.
     void play(const std::string& file, const std::string& told);
     bool deviceThere();
-    QSoundEffect* effect(const std::string& file);
+    struct Sound {
+        bool playable = false;                // what is wrong was logged when that was found out
+        std::unique_ptr<QSoundEffect> effect; // made when it is first heard
+    };
+    Sound& sound(const std::string& file);
+    bool isPlayable(const std::string& file) const;
+    std::unique_ptr<QSoundEffect> makeEffect(const std::string& file) const;
 
     enum class Device { Unknown, There, Missing };
 
@@ -38,8 +44,7 @@ class DesktopSoundBank final : public SoundBank {
     const SoundOptions& options_;
     const ObserverLink& link_;
     Device device_ = Device::Unknown;
-    // Null for a file that can't be played; it was logged when that was found out.
-    std::map<std::string, std::unique_ptr<QSoundEffect>> effects_;
+    std::map<std::string, Sound> sounds_;
 };
 
 } // namespace quendal

@@ -21,7 +21,7 @@ constexpr const char* kControlName = "/quendal/control.ini";
 QByteArray firstBytes(const QString& path, QString& fault) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        fault = file.errorString();
+        fault = "sie lässt sich nicht lesen";
         return {};
     }
     return file.read(static_cast<qint64>(kControlFileLimit) + 1);

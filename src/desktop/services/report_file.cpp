@@ -28,6 +28,21 @@ bool toDisk(QFile& file) {
 #endif
 }
 
+// A line that broke off, in a crash or on a full disk, must not swallow the next one.
+bool endsInALine(const QString& path) {
+    QFile file(path);
+    char last = '\n';
+    return !file.open(QIODevice::ReadOnly) || file.size() == 0 || !file.seek(file.size() - 1) ||
+           !file.getChar(&last) || last == '\n';
+}
+
+// Half a line can't be read; what another program has written behind it stays.
+void takeBack(QFile& file, qint64 before, qint64 written) {
+    if (written > 0 && file.size() == before + written) {
+        file.resize(before);
+    }
+}
+
 std::string localTime() {
     const QDateTime now = QDateTime::currentDateTime();
     const int minutes = now.offsetFromUtc() / 60;
@@ -70,16 +85,22 @@ bool ReportFile::write(const std::string& line, QString& fault) const {
         return false;
     }
     QDir().mkpath(place.absolutePath());
+    const std::string text = endsInALine(path_) ? line : '\n' + line;
     QFile file(path_);
-    const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered);
-    // One write for the line, so that two programs never mix their lines.
-    const bool written = opened && file.write(line.data(), static_cast<qint64>(line.size())) ==
-                                       static_cast<qint64>(line.size());
-    if (!written || !toDisk(file)) {
-        fault = file.errorString();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered)) {
+        fault = place.dir().exists() ? "das Recht dazu fehlt" : "den Ordner gibt es nicht";
         return false;
     }
-    return true;
+    const qint64 before = file.size();
+    const auto length = static_cast<qint64>(text.size());
+    // One write for the line, so that two programs never mix their lines.
+    const qint64 written = file.write(text.data(), length);
+    if (written == length && toDisk(file)) {
+        return true;
+    }
+    fault = written == length || written < 0 ? file.errorString() : "es passt nicht alles hinein";
+    takeBack(file, before, written);
+    return false;
 }
 
 } // namespace quendal

@@ -15,7 +15,7 @@ RtfDocument readFile(const QString& path) {
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return {.blocks = {}, .fault = file.errorString().toStdString()};
+        return {.blocks = {}, .fault = "die Datei lässt sich nicht lesen"};
     }
     const QByteArray bytes = file.read(static_cast<qint64>(kRtfFileLimit) + 1);
     return readRtf({bytes.data(), static_cast<std::size_t>(bytes.size())});

@@ -22,7 +22,7 @@ HCL_LOG = [*(f"h2o-hcl/{name}.wmf" for name in ("wanne", "_h2o", "_hcl", "h2o", 
            "h2o-hcl\\_h2ohcl", "h2o-hcl\\_cl"]
 ION_LOG = [*(f"ionen/{name}.wmf" for name in ("aus", "ein", "bedingungen", "grün1")),
            *("ionen\\" + name for name in ("einup", "ws1", "ws2", "grün2", "grün3"))]
-POWER_LOG = [f"phn/f{number}.gif" for number in range(1, STEPS)]
+POWER_LOG = [f"phn/f{number}.gif" for number in range(1, STEPS + 1)]
 SILVER_LOG = ["fällung\\" + name for name in ("wanne", "cl", "na", "ag", "no3")]
 
 
