@@ -193,6 +193,16 @@ TEST_F(GraphicsTest, APictureCutShortIsBroken) {
     }
 }
 
+TEST_F(GraphicsTest, AScreenWiderThanItsImageMayBeNoMore) {
+    const std::string data = HostApp().PathService.DataPath();
+    std::string bytes = CoreLib().FileService.read(data + "lens_mask.gif").value();
+    constexpr std::size_t kHighByteOfWidth = 7;
+    bytes[kHighByteOfWidth] = '\x20';
+    EXPECT_TRUE(decodePicture(bytes).isNull()); // 8272 px
+    bytes[kHighByteOfWidth] = '\x03';
+    EXPECT_EQ(decodePicture(bytes).size(), QSize(848, 444));
+}
+
 TEST_F(GraphicsTest, TheButtonColourIsThePlainOne) {
     EXPECT_EQ(CoreLib().Graphics.SystemColor(15), (Color{240, 240, 240}));
 }

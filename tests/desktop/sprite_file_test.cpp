@@ -112,11 +112,11 @@ TEST_F(SpriteFiles, TheTwinsOfTwoPicturesAreKeptUntilNobodyNeedsThem) {
     for (const PicturePtr& picture : pictures) {
         EXPECT_EQ(sharp(picture), 3 * picture->width());
     }
-    EXPECT_EQ(DesktopPicture::keptTwins(), 2U);
+    EXPECT_EQ(DesktopPicture::keptDetails(), 2U);
     pictures.pop_back();
-    EXPECT_EQ(DesktopPicture::keptTwins(), 1U);
+    EXPECT_EQ(DesktopPicture::keptDetails(), 1U);
     CoreLib().Graphics.forgetDetail();
-    EXPECT_EQ(DesktopPicture::keptTwins(), 0U);
+    EXPECT_EQ(DesktopPicture::keptDetails(), 0U);
     EXPECT_EQ(sharp(pictures.front()), 3 * pictures.front()->width());
 }
 
@@ -124,7 +124,7 @@ TEST_F(SpriteFiles, AScaledSpriteIsCopiedWithoutAnotherCopy) {
     const PicturePtr sprite = CoreLib().Graphics.LoadPicture(write("d.wmf", richWmf().bytes()));
     const PicturePtr scaled = CoreLib().Graphics.Scaled(sprite, 300, 150);
     const QImage& own = pixels(scaled).prepared(1);
-    const QImage& cut = pixels(scaled).cut({0, 0, 300, 150}, {300, 150}, RasterOp::SrcCopy);
+    const QImage& cut = pixels(scaled).cut({0, 0, 300, 150}, {300, 150});
     EXPECT_EQ(own.constBits(), cut.constBits()); // the same memory
 }
 
@@ -156,7 +156,7 @@ TEST_F(SpriteFiles, ADrawingOfTheLargestSizeIsDrawn) {
     writer.rectangle({0, 0, 8192, 20});
     const PicturePtr wide = CoreLib().Graphics.LoadPicture(write("f.wmf", writer.bytes()));
     ASSERT_NE(wide, nullptr);
-    const QImage& cut = pixels(wide).cut({0, 0, 100, 10}, {150, 15}, RasterOp::SrcCopy);
+    const QImage& cut = pixels(wide).cut({0, 0, 100, 10}, {150, 15});
     EXPECT_EQ(cut.pixelColor(70, 7), kRedPixel);
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/pictures/command_painter.h"
 
+#include "desktop/pictures/bit_join.h"
 #include "desktop/pictures/desktop_picture.h"
 #include "desktop/pictures/stamp_cache.h"
 #include "desktop/pictures/stretch.h"
@@ -39,6 +40,11 @@ QRectF partOf(const QRectF& from, const QRectF& box, const QRectF& left) {
     const double down = from.height() / box.height();
     return {from.x() + (left.x() - box.x()) * across, from.y() + (left.y() - box.y()) * down,
             left.width() * across, left.height() * down};
+}
+
+// Pixels of the copy for one of the picture.
+double scaleOf(const StretchBoxes& boxes) {
+    return std::max(boxes.to.width() / boxes.from.width(), boxes.to.height() / boxes.from.height());
 }
 
 // A copy much larger than the image, which would need much memory.
@@ -229,20 +235,18 @@ void CommandPainter::stretch(const DesktopPicture& picture, const StretchBoxes& 
 
 void CommandPainter::join(const DesktopPicture& picture, const StretchBoxes& boxes,
                           RasterOp operation) {
-    const QImage& image = picture.cut(boxes.from, boxes.to.size(), operation);
     if (operation == RasterOp::SrcCopy) {
-        painter_.drawImage(boxes.to.topLeft(), image);
+        painter_.drawImage(boxes.to.topLeft(), picture.cut(boxes.from, boxes.to.size()));
         return;
     }
+    const DesktopPicture::Detail best = picture.passingDetail(boxes.from, scaleOf(boxes));
     for (const QRect& part : clip_) {
-        joinBits(target_, part, image, boxes.to.topLeft(), operation);
+        joinBits(target_, part, best.image, {boxes.to, best.from}, operation);
     }
 }
 
 void CommandPainter::stretchCopy(const DesktopPicture& picture, const StretchBoxes& boxes) {
-    const double scale =
-        std::max(boxes.to.width() / boxes.from.width(), boxes.to.height() / boxes.from.height());
-    const DesktopPicture::Detail best = picture.detail(boxes.from, scale);
+    const DesktopPicture::Detail best = picture.detail(boxes.from, scaleOf(boxes));
     for (const QRect& part : clip_) {
         stretcher().copy(target_, part, best.image, {boxes.to, best.from});
     }

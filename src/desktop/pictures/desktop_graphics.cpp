@@ -40,19 +40,18 @@ PicturePtr DesktopGraphics::LoadPicture(const std::string& path) {
     if (isPlaceable(*bytes)) {
         return loadDrawing(path, *bytes);
     }
-    QImage image = decodePicture(*bytes);
-    if (image.isNull()) {
-        logLine("picture broken: " + path);
-        return nullptr;
-    }
     const std::string twin = twinName(path);
     const QString twinFile =
         files_.FileExists(twin) ? QString::fromStdString(files_.realName(twin)) : QString();
-    return std::make_shared<DesktopPicture>(std::move(image), twinFile);
+    auto picture = DesktopPicture::fromFile(*bytes, twinFile);
+    if (picture == nullptr) {
+        logLine("picture broken: " + path);
+    }
+    return picture;
 }
 
 void DesktopGraphics::forgetDetail() {
-    DesktopPicture::forgetTwins();
+    DesktopPicture::forgetDetail();
 }
 
 PicturePtr DesktopGraphics::Scaled(const PicturePtr& picture, int width, int height) {

@@ -1,7 +1,6 @@
 #include "desktop/pictures/desktop_picture.h"
 
 #include "desktop/pictures/sprite_renderer.h"
-#include "desktop/pictures/stretch.h"
 #include "host/log.h"
 #include "host/picture_bytes.h"
 
@@ -18,10 +17,11 @@ namespace {
 
 constexpr std::size_t kKeptSizes = 3;
 constexpr std::size_t kKeptCuts = 4;
-constexpr int kLargestTwin = 4;       // times the file's own size
-constexpr std::size_t kKeptTwins = 2; // 8 MB each; a step between two pictures needs both
-constexpr double kTwinFrom = 1.05;    // below it the file itself has all the detail
-constexpr int kDrawingTwin = 2;       // size of the twin of a drawing
+constexpr int kLargestTwin = 4;         // times the file's own size
+constexpr std::size_t kKeptDetails = 2; // 8 MB each; a step between two pictures needs both
+constexpr qsizetype kSmall = 1 << 16;   // bytes of pixels that are kept with their picture
+constexpr double kTwinFrom = 1.05;      // below it the file itself has all the detail
+constexpr int kDrawingTwin = 2;         // size of the twin of a drawing
 constexpr double kHalfFrom =
     0.5; // smooth copies look at two pixels only: beyond it they'd skip some
 
@@ -56,53 +56,79 @@ void makeRoom(std::vector<Kept>& kept, std::size_t most) {
     }
 }
 
-// The pictures whose twins are kept, the one that was asked for last at the end.
-std::vector<const DesktopPicture*>& twinKeepers() {
-    static std::vector<const DesktopPicture*> keepers;
-    return keepers;
+// The pictures whose pixels are kept, the one that was asked for last at the end.
+std::vector<const DesktopPicture*>& keepers() {
+    static std::vector<const DesktopPicture*> kept;
+    return kept;
 }
 
 } // namespace
 
 DesktopPicture::~DesktopPicture() {
-    std::erase(twinKeepers(), this);
+    std::erase(keepers(), this);
 }
 
-void DesktopPicture::forgetTwins() {
-    for (const DesktopPicture* keeper : twinKeepers()) {
-        keeper->twin_ = QImage();
+void DesktopPicture::forgetDetail() {
+    for (const DesktopPicture* keeper : keepers()) {
+        keeper->dropPixels();
     }
-    twinKeepers().clear();
+    keepers().clear();
 }
 
-std::size_t DesktopPicture::keptTwins() {
-    return twinKeepers().size();
+std::size_t DesktopPicture::keptDetails() {
+    return keepers().size();
 }
 
-void DesktopPicture::keepTwin() const {
-    std::vector<const DesktopPicture*>& keepers = twinKeepers();
-    std::erase(keepers, this);
-    if (twin_.isNull()) {
+void DesktopPicture::dropPixels() const {
+    // What came with the picture can't be loaded again.
+    if (!twinFile_.isEmpty()) {
+        twin_ = QImage();
+    }
+    if (!bytes_.empty()) {
+        image_ = QImage();
+    }
+}
+
+void DesktopPicture::keepPixels(double scale) const {
+    std::erase(keepers(), this);
+    if (scale > kTwinFrom) {
         twin_ = loadTwin();
     }
-    // One that came with the picture can't be loaded again.
-    if (twin_.isNull() || twinFile_.isEmpty()) {
+    if (twin_.isNull() || scale <= kTwinFrom) {
+        image_ = own();
+    }
+    if (twinFile_.isEmpty() && bytes_.empty()) {
         return;
     }
-    if (keepers.size() >= kKeptTwins) {
-        keepers.front()->twin_ = QImage();
-        keepers.erase(keepers.begin());
+    if (keepers().size() >= kKeptDetails) {
+        keepers().front()->dropPixels();
+        keepers().erase(keepers().begin());
     }
-    keepers.push_back(this);
+    keepers().push_back(this);
 }
 
 DesktopPicture::DesktopPicture(QImage image, QString twin)
-    : size_(image.size()), image_(readyImage(image)), twinFile_(std::move(twin)) {}
+    : size_(image.size()), image_(readyImage(image)), twinFile_(std::move(twin)) {
+    opaque_ = image_.format() == QImage::Format_RGB32;
+}
 
 std::shared_ptr<const DesktopPicture> DesktopPicture::withDetail(QImage image,
                                                                  const QImage& sharper) {
     auto picture = std::make_shared<DesktopPicture>(std::move(image));
     picture->twin_ = readyImage(sharper);
+    return picture;
+}
+
+std::shared_ptr<const DesktopPicture> DesktopPicture::fromFile(std::string bytes, QString twin) {
+    QImage image = decodePicture(bytes);
+    if (image.isNull()) {
+        return nullptr;
+    }
+    auto picture = std::make_shared<DesktopPicture>(std::move(image), std::move(twin));
+    if (picture->image_.sizeInBytes() > kSmall) {
+        picture->image_ = QImage();
+        picture->bytes_ = std::move(bytes);
+    }
     return picture;
 }
 
@@ -114,7 +140,8 @@ std::shared_ptr<const DesktopPicture> DesktopPicture::fromDrawing(WmfDrawing dra
 }
 
 QImage decodePicture(const std::string& bytes) {
-    if (isGifCutShort(bytes)) {
+    // The toolkit tells the size of a GIF's first image and makes room for its screen.
+    if (isGifCutShort(bytes) || (isGif(bytes) && !gifScreen(bytes))) {
         return {};
     }
     QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
@@ -125,14 +152,15 @@ QImage decodePicture(const std::string& bytes) {
     if (!size.isEmpty() && !isPictureSize(size.width(), size.height())) {
         return {};
     }
-    return reader.read();
+    QImage image = reader.read();
+    return isPictureSize(image.width(), image.height()) ? image : QImage();
 }
 
-const QImage& DesktopPicture::own() const {
+QImage DesktopPicture::own() const {
     if (image_.isNull() && drawing_ != nullptr) {
         image_ = painted(*drawing_, size_);
     }
-    return image_;
+    return image_.isNull() && !bytes_.empty() ? readyImage(decodePicture(bytes_)) : image_;
 }
 
 QImage DesktopPicture::loadTwin() const {
@@ -188,7 +216,7 @@ QImage DesktopPicture::inSize(QSize devicePixels) const {
 
 const QImage& DesktopPicture::half(std::size_t times) const {
     while (halves_.size() < times) {
-        const QImage& larger = halves_.empty() ? own() : halves_.back();
+        const QImage larger = halves_.empty() ? own() : halves_.back();
         const QSize size = (larger.size() / 2).expandedTo({1, 1});
         halves_.push_back(
             readyImage(larger.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
@@ -197,49 +225,41 @@ const QImage& DesktopPicture::half(std::size_t times) const {
 }
 
 DesktopPicture::Detail DesktopPicture::detail(const QRectF& from, double scale) const {
-    if (scale > kTwinFrom) {
-        keepTwin();
-    }
+    keepPixels(scale);
+    return passingDetail(from, scale);
+}
+
+DesktopPicture::Detail DesktopPicture::passingDetail(const QRectF& from, double scale) const {
     std::size_t halvings = 0;
     for (double left = scale; left < kHalfFrom && halvings < 16; left *= 2) {
         ++halvings;
     }
-    const QImage& image = scale > kTwinFrom && !twin_.isNull() ? twin_
-                          : halvings > 0                       ? half(halvings)
-                                                               : own();
-    return {image, scaled(from, static_cast<double>(image.width()) / width(),
-                          static_cast<double>(image.height()) / height())};
+    QImage image = halvings > 0 ? half(halvings) : source(scale);
+    const QRectF part = scaled(from, static_cast<double>(image.width()) / width(),
+                               static_cast<double>(image.height()) / height());
+    return {std::move(image), part};
 }
 
-QImage DesktopPicture::makeCut(const QRectF& from, QSize size, RasterOp operation) const {
+QImage DesktopPicture::makeCut(const QRectF& from, QSize size) const {
     const double scale = std::max(size.width() / from.width(), size.height() / from.height());
     const Detail best = detail(from, scale);
     if (best.from == QRectF(best.image.rect()) && best.image.size() == size) {
         return best.image;
     }
-    switch (operation) {
-    case RasterOp::SrcAnd:
-        return maskCopy(best.image, best.from, size);
-    case RasterOp::SrcInvert:
-        return invertCopy(best.image, best.from, size);
-    case RasterOp::SrcCopy:
-        break;
-    }
     const QRect part = best.from.toAlignedRect();
-    const QImage& cut = part == best.image.rect() ? best.image : best.image.copy(part);
+    const QImage cut = part == best.image.rect() ? best.image : best.image.copy(part);
     return readyImage(cut.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
-const QImage& DesktopPicture::cut(const QRectF& from, QSize devicePixels,
-                                  RasterOp operation) const {
+const QImage& DesktopPicture::cut(const QRectF& from, QSize devicePixels) const {
     const auto known = std::find_if(cuts_.begin(), cuts_.end(), [&](const Cut& cut) {
-        return cut.from == from && cut.size == devicePixels && cut.operation == operation;
+        return cut.from == from && cut.size == devicePixels;
     });
     if (known != cuts_.end()) {
         return known->image;
     }
     makeRoom(cuts_, kKeptCuts);
-    cuts_.push_back({from, devicePixels, operation, makeCut(from, devicePixels, operation)});
+    cuts_.push_back({from, devicePixels, makeCut(from, devicePixels)});
     return cuts_.back().image;
 }
 

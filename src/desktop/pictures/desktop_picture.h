@@ -4,7 +4,6 @@
 
 #include "desktop/files/wmf_drawing.h"
 #include "host/picture.h"
-#include "host/surface.h"
 
 #include <QImage>
 #include <QRectF>
@@ -30,13 +29,17 @@ class DesktopPicture final : public Picture {
     // `sharper` is the same picture in more pixels.
     static std::shared_ptr<const DesktopPicture> withDetail(QImage image, const QImage& sharper);
 
+    // A picture file that is decoded again where its pixels are needed; null for bytes that
+    // decodePicture refuses. `twin` as above.
+    static std::shared_ptr<const DesktopPicture> fromFile(std::string bytes, QString twin);
+
     // A picture in the natural size of the drawing, rounded to whole px.
     static std::shared_ptr<const DesktopPicture> fromDrawing(WmfDrawing drawing);
 
     int width() const override { return size_.width(); }
     int height() const override { return size_.height(); }
     // Nothing shows through.
-    bool opaque() const { return image_.format() == QImage::Format_RGB32; }
+    bool opaque() const { return opaque_; }
 
     // The picture at `scale` device pixels for one design px. Made once a size; a few sizes are
     // kept, because a picture may be used in two windows at the same time.
@@ -46,19 +49,21 @@ class DesktopPicture final : public Picture {
     QImage inSize(QSize devicePixels) const;
 
     // The picture in about as many pixels as `scale` asks for, and the px of `from` in it: the file
-    // itself, its twin, or smaller. Good until the next picture is asked.
+    // itself, its twin, or smaller. Kept for whoever asks again.
     struct Detail {
-        const QImage& image;
+        QImage image;
         QRectF from;
     };
     Detail detail(const QRectF& from, double scale) const;
-    // The part `from` in this size, for `operation`. The last ones are kept, for whoever asks
-    // again.
-    const QImage& cut(const QRectF& from, QSize devicePixels, RasterOp operation) const;
+    // The same for whoever asks once.
+    Detail passingDetail(const QRectF& from, double scale) const;
+    // The part `from` in this size. The last ones are kept, for whoever asks again.
+    const QImage& cut(const QRectF& from, QSize devicePixels) const;
 
-    // The twins of all pictures, which are loaded again when somebody needs them.
-    static void forgetTwins();
-    static std::size_t keptTwins();
+    // The pixels of all pictures that can be had again: they are, when somebody needs them.
+    static void forgetDetail();
+    // How many pictures have such pixels at hand.
+    static std::size_t keptDetails();
 
   private:
     struct Prepared {
@@ -68,21 +73,23 @@ class DesktopPicture final : public Picture {
     struct Cut {
         QRectF from;
         QSize size;
-        RasterOp operation = RasterOp::SrcCopy;
         QImage image;
     };
     // The picture in its own size; a drawing isn't painted before somebody asks.
-    const QImage& own() const;
+    QImage own() const;
     QImage loadTwin() const;
-    // The twin at hand, and those that nobody has asked for lately gone: a few of them would be all
-    // the memory that the program may take.
-    void keepTwin() const;
+    // The pixels for `scale` at hand, and those of pictures that nobody has asked for lately gone:
+    // a few of them would be all the memory that the program may take.
+    void keepPixels(double scale) const;
+    void dropPixels() const;
     QImage source(double scale) const;
     const QImage& half(std::size_t times) const;
-    QImage makeCut(const QRectF& from, QSize size, RasterOp operation) const;
+    QImage makeCut(const QRectF& from, QSize size) const;
 
     QSize size_;
     std::shared_ptr<const WmfDrawing> drawing_; // null for a picture of pixels
+    std::string bytes_;                         // of the file, where image_ isn't kept
+    bool opaque_ = false;
     mutable QImage image_;
     mutable QString twinFile_; // emptied when the file turns out to be broken
     mutable QImage twin_;      // while it is needed for more than one copy

@@ -13,7 +13,8 @@ namespace quendal {
 
 namespace {
 
-constexpr std::size_t kMostStamps = 6000; // a few megabytes; beyond that all are made anew
+constexpr std::size_t kMostStamps = 6000;
+constexpr qsizetype kMostBytes = 8 << 20; // beyond either all are made anew
 constexpr double kLargest = 120;          // radius above which copying costs more than drawing
 constexpr int kPhases = 4;                // of a pixel, on either axis
 constexpr int kMargin = 2;
@@ -43,6 +44,17 @@ int phaseOf(double place) {
 
 } // namespace
 
+QImage StampCache::stored(const QImage& painted) {
+    if (bytes_ + painted.sizeInBytes() > kMostBytes ||
+        circles_.size() + texts_.size() >= kMostStamps) {
+        circles_.clear();
+        texts_.clear();
+        bytes_ = 0;
+    }
+    bytes_ += painted.sizeInBytes();
+    return painted.copy();
+}
+
 void StampCache::circle(QPainter& painter, QPointF centre, const CircleLook& look) {
     if (!(look.radius >= 0) || look.radius > kLargest) {
         if (look.radius > kLargest) {
@@ -61,9 +73,6 @@ void StampCache::circle(QPainter& painter, QPointF centre, const CircleLook& loo
     const int reach = static_cast<int>(std::ceil(look.radius + look.outlineWidth)) + kMargin;
     auto known = circles_.find(key);
     if (known == circles_.end()) {
-        if (circles_.size() >= kMostStamps) {
-            circles_.clear();
-        }
         QImage stamp(2 * reach, 2 * reach, QImage::Format_ARGB32_Premultiplied);
         stamp.fill(Qt::transparent);
         QPainter stampPainter(&stamp);
@@ -71,7 +80,7 @@ void StampCache::circle(QPainter& painter, QPointF centre, const CircleLook& loo
                    QPointF(reach + (phaseX + 0.5) / kPhases, reach + (phaseY + 0.5) / kPhases),
                    look);
         stampPainter.end();
-        known = circles_.emplace(key, std::move(stamp)).first;
+        known = circles_.emplace(key, stored(stamp)).first;
     }
     painter.drawImage(QPoint(static_cast<int>(std::floor(centre.x())) - reach,
                              static_cast<int>(std::floor(centre.y())) - reach),
@@ -93,14 +102,11 @@ void StampCache::text(QPainter& painter, QPointF place, std::string_view text, c
     std::uint64_t key = mixed(std::hash<std::string_view>{}(text), packed(color));
     key = mixed(key, static_cast<std::uint64_t>(std::lround(font.size * scale * 16)) << 2 |
                          (font.bold ? 2U : 0U) | (font.italic ? 1U : 0U));
-    TextStamp& stamp = texts_[key];
-    if (stamp.text != text || !(stamp.font == font) || stamp.scale != scale ||
-        !(stamp.color == color) || stamp.image.isNull()) {
-        if (texts_.size() > kMostStamps) {
-            texts_.clear();
-            this->text(painter, place, text, font, scale, color);
-            return;
-        }
+    auto known = texts_.find(key);
+    const bool same = known != texts_.end() && known->second.text == text &&
+                      known->second.font == font && known->second.scale == scale &&
+                      known->second.color == color;
+    if (!same) {
         const QFont face = look::font(font, scale);
         const QFontMetricsF metrics(face);
         QImage image(static_cast<int>(std::ceil(metrics.horizontalAdvance(shown()))) + 2 * kMargin,
@@ -112,11 +118,15 @@ void StampCache::text(QPainter& painter, QPointF place, std::string_view text, c
         stampPainter.setPen(ink);
         stampPainter.drawText(QPointF(kMargin, kMargin + metrics.ascent()), shown());
         stampPainter.end();
-        stamp = {std::string(text), font, scale, color, std::move(image)};
+        QImage stamp = stored(image); // may clear the list
+        known = texts_
+                    .insert_or_assign(
+                        key, TextStamp{std::string(text), font, scale, color, std::move(stamp)})
+                    .first;
     }
     painter.drawImage(QPoint(static_cast<int>(std::lround(place.x())) - kMargin,
                              static_cast<int>(std::lround(place.y())) - kMargin),
-                      stamp.image);
+                      known->second.image);
 }
 
 } // namespace quendal

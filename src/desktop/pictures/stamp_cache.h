@@ -43,8 +43,13 @@ class StampCache {
         QImage image;
     };
 
+    // The stamp without what the toolkit keeps with an image that was painted on, which is more
+    // than the stamp itself. Makes room where it is needed.
+    QImage stored(const QImage& painted);
+
     std::unordered_map<std::uint64_t, QImage> circles_;
     std::unordered_map<std::uint64_t, TextStamp> texts_;
+    qsizetype bytes_ = 0; // of all stamps
 };
 
 } // namespace quendal

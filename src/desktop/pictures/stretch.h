@@ -51,18 +51,4 @@ class Stretcher {
     bool straight_ = false; // the columns of the source as they are
 };
 
-// Copies of a part of an image for joining bits. Each pixel is the nearest one of the source, so
-// that mask and picture of a pair keep to the same edges. With soft edges on the white side of
-// black: what black covers of such a pixel is its opacity.
-QImage maskCopy(const QImage& source, const QRectF& from, QSize size);
-// With smooth transitions between colours. Black, which an exclusive or leaves no trace of, mixes
-// with no other colour.
-QImage invertCopy(const QImage& source, const QRectF& from, QSize size);
-
-// Joins `source` at `place` to what is there, bit by bit. On a target with transparency what keeps
-// its colour keeps its transparency; all else becomes opaque. Where a pixel of the source isn't
-// opaque, as much stays as it was.
-void joinBits(QImage& target, const QRect& clip, const QImage& source, QPoint place,
-              RasterOp operation);
-
 } // namespace quendal

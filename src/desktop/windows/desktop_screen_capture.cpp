@@ -141,7 +141,7 @@ QImage DesktopScreenCapture::ownWindows(const QRect& area, double ratio) const {
     QPainter painter(&image);
     const auto paint = [&](QWidget& window) {
         if (window.isVisible()) {
-            painter.drawPixmap(window.geometry().topLeft() - area.topLeft(), window.grab());
+            window.render(&painter, window.geometry().topLeft() - area.topLeft());
         }
     };
     for (FormWindow* window : windows_.shownWindows()) {
