@@ -4,7 +4,7 @@ set -uo pipefail
 cd "$(dirname "$0")/.."
 
 forms=(src/workbench src/weak_silver src/conducto src/animations src/shell)
-core=(src/host src/particles "${forms[@]}" src/script src/headless)
+core=(src/host src/particles "${forms[@]}" src/script src/headless src/monkey)
 failed=0
 forbid() { # reason, regular expression, folders
     local reason=$1 pattern=$2
@@ -20,7 +20,7 @@ forbid() { # reason, regular expression, folders
 forbid "Qt outside the desktop" '#include <Q' "${core[@]}" apps/quendal-script
 forbid "A clock, chance or sleep outside the hosts' services" \
     'std::chrono|<chrono>|\brand\(\)|std::random_device|sleep_for|usleep|processEvents' \
-    src/host src/particles "${forms[@]}" src/script
+    src/host src/particles "${forms[@]}" src/script src/monkey
 forbid "host looks upward" '#include "(particles|shell|workbench|weak_silver|conducto|animations|script|headless|desktop)/' src/host
 forbid "the session looks upward" '#include "(particles|workbench|weak_silver|conducto|animations|script|headless|desktop|shell/forms)/' \
     src/shell/session
@@ -40,5 +40,5 @@ forbid "forms look upward or at each other" \
     src/animations
 forbid "the shell looks upward" '#include "(script|headless|desktop)/' src/shell
 forbid "the player looks at a host" '#include "(headless|desktop)/' src/script
-forbid "the headless host looks at the desktop" '#include "desktop/' src/headless
+forbid "the headless host looks at the desktop" '#include "desktop/' src/headless src/monkey
 exit $failed

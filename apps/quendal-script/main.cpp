@@ -1,5 +1,6 @@
 // Plays scripts of a learner's actions against the program.
 #include "headless/play_headless.h"
+#include "monkey/play_monkey.h"
 #include "script/desktop_script.h"
 #include "script/play_each.h"
 #include "script/script_options.h"
@@ -23,6 +24,15 @@ int playOne(int argc, char** argv, const ScriptOptions& options) {
                            : playHeadlessFile(options, chooseProgram);
 }
 
+int letMonkeyPlay(const MonkeyRequest& monkey) {
+    if (!monkey.form.empty() && !monkeyKnows(monkey.form)) {
+        std::cerr << "quendal-script: the monkey knows no form " << monkey.form << '\n';
+        return static_cast<int>(ScriptStatus::Malformed);
+    }
+    return playMonkey({.seed = monkey.seed, .events = monkey.events, .form = monkey.form},
+                      chooseProgram, std::cout, std::cerr);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -35,6 +45,9 @@ int main(int argc, char** argv) {
     if (options->help) {
         std::cout << scriptUsage();
         return 0;
+    }
+    if (options->monkey) {
+        return letMonkeyPlay(*options->monkey);
     }
     return playEach(options->files, [&](const std::string& file) {
         ScriptOptions one = *options;

@@ -1,6 +1,7 @@
 // The command line of the script player.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,10 +15,19 @@ enum class ScriptStatus {
     Impossible = 3, // a learner could not have done it, or the time is used up
 };
 
+// Random events in place of a file.
+struct MonkeyRequest {
+    std::uint64_t seed = 1;
+    long events = 0;
+    std::string form; // to stay on, empty for the whole program
+};
+
 struct ScriptOptions {
     std::vector<std::string> files;
+    std::optional<MonkeyRequest> monkey;
     bool desktop = false;     // on the real windows
     bool scriptClock = false; // the real windows run on the script's clock
+    bool byKeys = false;      // the learner has no mouse
     bool keepGoing = false;   // go on after a failed expectation
     bool help = false;
 };
