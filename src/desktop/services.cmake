@@ -31,13 +31,13 @@ set(QUENDAL_DESKTOP_SERVICES
   services/ini_host_control.cpp
   services/report_file.cpp
   services/rich_text_reader.cpp
-  services/rich_text_writer.cpp)
+  services/rich_text_writer.cpp
+  services/user_settings.cpp)
 
 set(QUENDAL_DESKTOP_SERVICE_LINKS
   quendal_desktop_files Qt6::Widgets Qt6::Multimedia Qt6::PrintSupport
   QCustomPlotQt6::QCustomPlotQt6)
 
 # Where services/data_folder.cpp looks last.
-include(GNUInstallDirs)
 set_source_files_properties(services/data_folder.cpp PROPERTIES COMPILE_DEFINITIONS
-  "QUENDAL_INSTALLED_DATA=\"${CMAKE_INSTALL_FULL_DATADIR}/quendal/data\";QUENDAL_SOURCE_DATA=\"${CMAKE_SOURCE_DIR}/data\"")
+  "QUENDAL_INSTALLED_DATA=\"${QUENDAL_INSTALLED_DATA}\"")

@@ -12,22 +12,6 @@ namespace {
 
 constexpr ForcedMode kModes[] = {{1, "MODUS_ANI"}, {2, "MODUS_DEMO"}, {3, "MODUS_CALC"}};
 
-// The beginning of `text` on one line, without characters that steer a terminal and without cutting
-// one of several bytes in two.
-std::string shortened(std::string_view text) {
-    constexpr std::size_t kLimit = 40;
-    std::size_t end = std::min(text.size(), kLimit);
-    while (end > 0 && end < text.size() &&
-           (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U) {
-        --end;
-    }
-    std::string shown(text.substr(0, end));
-    std::replace_if(
-        shown.begin(), shown.end(),
-        [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }, '?');
-    return end < text.size() ? shown + "..." : shown;
-}
-
 } // namespace
 
 std::optional<double> countingNumber(std::string_view text) {
@@ -53,8 +37,22 @@ std::optional<int> concentrationIndex(std::string_view text, int count) {
     return place >= 1 && place <= count ? std::optional(place - 1) : std::nullopt;
 }
 
+std::string shownText(std::string_view text) {
+    constexpr std::size_t kLimit = 40;
+    std::size_t end = std::min(text.size(), kLimit);
+    while (end > 0 && end < text.size() &&
+           (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U) {
+        --end;
+    }
+    std::string shown(text.substr(0, end));
+    std::replace_if(
+        shown.begin(), shown.end(),
+        [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }, '?');
+    return end < text.size() ? shown + "..." : shown;
+}
+
 void logTeacherKey(std::string_view key, std::string_view text, std::string_view consequence) {
-    logLine("Lehrerschlüssel " + std::string(key) + " = \"" + shortened(text) +
+    logLine("Lehrerschlüssel " + std::string(key) + " = \"" + shownText(text) +
             "\": " + std::string(consequence));
 }
 

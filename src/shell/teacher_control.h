@@ -23,6 +23,10 @@ std::optional<ForcedMode> forcedMode(std::string_view text);
 // from 1; nullopt when no such item is there.
 std::optional<int> concentrationIndex(std::string_view text, int count);
 
+// The beginning of a key's text on one line, without characters that steer a terminal and without
+// cutting one of several bytes in two.
+std::string shownText(std::string_view text);
+
 // Tells the teacher on standard error that a key can't be taken as it stands. Of a long text only
 // the beginning is shown.
 void logTeacherKey(std::string_view key, std::string_view text, std::string_view consequence);

@@ -9,6 +9,7 @@ quendal_tests(desktop_services_test
     services_chart_test.cpp
     services_chart_view_test.cpp
     services_command_line_test.cpp
+    services_control_check_test.cpp
     services_control_test.cpp
     services_data_folder_test.cpp
     services_report_test.cpp

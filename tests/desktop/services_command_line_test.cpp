@@ -49,6 +49,32 @@ TEST(CommandLine, TheLastOfSeveralCounts) {
     EXPECT_EQ(parseCommandLine("--data a --data=b").dataFolder, "b");
 }
 
+TEST(CommandLine, TheTourMayHaveAFolder) {
+    EXPECT_FALSE(parseCommandLine("").tour);
+    for (const char* text : {"--tour", "--tour=", "--tour --data x"}) {
+        const CommandLine line = parseCommandLine(text);
+        EXPECT_TRUE(line.tour) << text;
+        EXPECT_EQ(line.tourFolder, "") << text;
+        EXPECT_TRUE(line.faults.empty()) << text;
+    }
+    EXPECT_EQ(parseCommandLine("--tour bilder").tourFolder, "bilder");
+    EXPECT_EQ(parseCommandLine("--tour=bilder --data x").tourFolder, "bilder");
+    EXPECT_FALSE(parseCommandLine("--tourist").tour);
+}
+
+TEST(CommandLine, ACheckIsAskedForEvenWithoutAFile) {
+    EXPECT_FALSE(parseCommandLine("--control a.ini").check);
+    for (const char* text : {"--check-control a.ini", "--check-control=a.ini"}) {
+        const CommandLine line = parseCommandLine(text);
+        EXPECT_TRUE(line.check) << text;
+        EXPECT_EQ(line.checkedFile, "a.ini") << text;
+        EXPECT_EQ(line.controlFile, "") << text;
+    }
+    const CommandLine line = parseCommandLine("--check-control");
+    EXPECT_TRUE(line.check);
+    EXPECT_EQ(line.faults.size(), 1U);
+}
+
 TEST(CommandLine, WhatItDoesNotKnowIsAFaultAndTheRestCounts) {
     const CommandLine line = parseCommandLine("--vollbild --data x unfug");
     EXPECT_EQ(line.dataFolder, "x");
@@ -67,7 +93,8 @@ TEST(CommandLine, AMissingValueIsAFault) {
 }
 
 TEST(CommandLine, HelpNamesEveryOption) {
-    for (const char* option : {"--data", "--control", "--report", "--help", "--version"}) {
+    for (const char* option :
+         {"--data", "--control", "--report", "--check-control", "--help", "--version"}) {
         EXPECT_NE(helpText().find(option), std::string::npos) << option;
     }
     EXPECT_EQ(versionText(), "Quendal 3.0 (GPL-3.0-or-later)\n");

@@ -56,7 +56,28 @@ struct ValueOption {
 
 constexpr ValueOption kValueOptions[] = {{"--data", &CommandLine::dataFolder},
                                          {"--control", &CommandLine::controlFile},
-                                         {"--report", &CommandLine::reportFile}};
+                                         {"--report", &CommandLine::reportFile},
+                                         {"--check-control", &CommandLine::checkedFile}};
+
+// The value that stands behind `sign` in the word itself, or else the next word, unless that is an
+// option; empty without either.
+std::string takeValue(const std::vector<std::string>& words, std::size_t& at, std::size_t sign) {
+    if (sign != std::string_view::npos) {
+        return words[at].substr(sign + 1);
+    }
+    return at + 1 < words.size() && words[at + 1].substr(0, 2) != "--" ? words[++at] : "";
+}
+
+bool takeTour(const std::vector<std::string>& words, std::size_t& at, CommandLine& line) {
+    const std::string_view word = words[at];
+    const std::size_t sign = word.find('=');
+    if (word.substr(0, sign) != "--tour") {
+        return false;
+    }
+    line.tour = true;
+    line.tourFolder = takeValue(words, at, sign);
+    return true;
+}
 
 // Takes the option at `at` with its value; false when the word is no option with a value.
 bool takeValueOption(const std::vector<std::string>& words, std::size_t& at, CommandLine& line) {
@@ -69,12 +90,8 @@ bool takeValueOption(const std::vector<std::string>& words, std::size_t& at, Com
     if (option == std::end(kValueOptions)) {
         return false;
     }
-    std::string value;
-    if (sign != std::string_view::npos) {
-        value = word.substr(sign + 1);
-    } else if (at + 1 < words.size() && words[at + 1].substr(0, 2) != "--") {
-        value = words[++at];
-    }
+    line.check = line.check || option->field == &CommandLine::checkedFile;
+    std::string value = takeValue(words, at, sign);
     if (value.empty()) {
         line.faults.push_back("Der Option " + std::string(name) + " fehlt ihr Wert.");
     } else {
@@ -113,7 +130,7 @@ CommandLine parseCommandLine(std::string_view text) {
             line.help = true;
         } else if (word == "--version") {
             line.version = true;
-        } else if (!takeValueOption(words, at, line)) {
+        } else if (!takeTour(words, at, line) && !takeValueOption(words, at, line)) {
             line.faults.push_back("Die Option " + quoted(word) +
                                   " gibt es nicht; --help zeigt, was es gibt.");
         }
@@ -131,6 +148,13 @@ Aufruf: quendal [Optionen]
                     [QUENDAL_CONTROL]); was das System festlegt, geht vor
   --report DATEI    Datei, an die Fortschritt und Ergebnisse angehängt werden,
                     eine JSON-Zeile je Ereignis
+  --tour [ORDNER]   spielt eine ganze Aufgabe von selbst: auf dem Bildschirm
+                    oder, ohne Bildschirm und wenn ein Ordner genannt ist, als
+                    PNG-Bilder in diesen Ordner (sonst nach quendal-tour)
+  --check-control DATEI
+                    sagt, was eine Steuerdatei festlegt und was darin nicht
+                    stimmt, und endet: mit 0, wenn alles verstanden ist, mit 1
+                    bei Fundstellen, mit 2, wenn sie sich nicht lesen lässt
   --help            zeigt diesen Text
   --version         zeigt die Version
 

@@ -11,6 +11,10 @@ struct CommandLine {
     std::string dataFolder;  // --data, empty when not given
     std::string controlFile; // --control
     std::string reportFile;  // --report
+    std::string tourFolder;  // of --tour, empty when not given
+    bool tour = false;
+    std::string checkedFile; // --check-control
+    bool check = false;      // true also when --check-control has no file
     bool help = false;
     bool version = false;
     // One German sentence for each word that is no option; the program goes on without it.

@@ -72,6 +72,8 @@ std::optional<std::string> valueOf(std::string_view text) {
 
 class ControlParser {
   public:
+    explicit ControlParser(const ControlVisitor& visit) : visit_(visit) {}
+
     // False: the line belongs in no control file; fault_ says why.
     bool takeLine(std::string_view line) {
         ++number_;
@@ -82,27 +84,24 @@ class ControlParser {
         if (line.front() == '[') {
             return takeSection(line);
         }
-        if (section_ == Section::None) {
+        if (section_.empty()) {
             return refuse("steht vor dem ersten Abschnitt");
         }
-        return section_ == Section::Other || takeKey(line);
+        return takeKey(line) || section_ != kControlSection;
     }
 
     bool found() const { return found_; }
-    ControlKeys& keys() { return keys_; }
     const std::string& fault() const { return fault_; }
 
   private:
-    enum class Section { None, Ours, Other };
-
     bool takeSection(std::string_view line) {
         const std::size_t end = line.find(']');
         if (end == std::string_view::npos || !isComment(trimmed(line.substr(end + 1)))) {
             return refuse("ist kein Abschnitt");
         }
-        const std::string name = controlKeyName(trimmed(line.substr(1, end - 1)));
-        section_ = name == kControlSection ? Section::Ours : Section::Other;
-        found_ = found_ || section_ == Section::Ours;
+        section_ = controlKeyName(trimmed(line.substr(1, end - 1)));
+        found_ = found_ || section_ == kControlSection;
+        section_ += section_.empty() ? "?" : ""; // a section without a name is one nevertheless
         return true;
     }
 
@@ -117,9 +116,7 @@ class ControlParser {
         if (!value) {
             return refuse("hat ein Anführungszeichen ohne Gegenstück");
         }
-        if (!value->empty()) {
-            keys_.emplace(controlKeyName(key), *value);
-        }
+        visit_({.line = number_, .section = section_, .key = controlKeyName(key), .text = *value});
         return true;
     }
 
@@ -129,10 +126,10 @@ class ControlParser {
         return false;
     }
 
-    Section section_ = Section::None;
+    const ControlVisitor& visit_;
+    std::string section_; // in capitals; empty before the first
     bool found_ = false;
     int number_ = 0;
-    ControlKeys keys_;
     std::string fault_;
 };
 
@@ -144,30 +141,39 @@ std::string controlKeyName(std::string_view key) {
     return name;
 }
 
-std::optional<ControlKeys> parseControlFile(std::string_view bytes, std::string& fault) {
+bool readControlFile(std::string_view bytes, const ControlVisitor& visit, std::string& fault) {
     if (bytes.size() > kControlFileLimit) {
         fault = "die Datei ist größer als 1 MB";
-        return std::nullopt;
+        return false;
     }
     if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
         bytes.remove_prefix(kByteOrderMark.size());
     }
     if (std::any_of(bytes.begin(), bytes.end(), isControlCharacter) || !isUtf8(bytes)) {
         fault = "die Datei ist kein Text in UTF-8";
-        return std::nullopt;
+        return false;
     }
-    ControlParser parser;
+    ControlParser parser(visit);
     while (!bytes.empty()) {
         if (!parser.takeLine(takeLine(bytes))) {
             fault = parser.fault();
-            return std::nullopt;
+            return false;
         }
     }
     if (!parser.found()) {
         fault = "der Abschnitt [" + std::string(kControlSection) + "] fehlt";
-        return std::nullopt;
     }
-    return std::move(parser.keys());
+    return parser.found();
+}
+
+std::optional<ControlKeys> parseControlFile(std::string_view bytes, std::string& fault) {
+    ControlKeys keys;
+    const auto keep = [&keys](const ControlEntry& entry) {
+        if (entry.section == kControlSection && !entry.text.empty()) {
+            keys.emplace(entry.key, entry.text);
+        }
+    };
+    return readControlFile(bytes, keep, fault) ? std::optional(std::move(keys)) : std::nullopt;
 }
 
 } // namespace quendal

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -16,6 +17,20 @@ using ControlKeys = std::map<std::string, std::string>;
 
 // Key in any case as ControlKeys holds it.
 std::string controlKeyName(std::string_view key);
+
+// A line that sets a key.
+struct ControlEntry {
+    int line = 0;        // from 1
+    std::string section; // in capitals, like the key
+    std::string key;
+    std::string text; // an empty one sets nothing
+};
+using ControlVisitor = std::function<void(const ControlEntry&)>;
+
+// Hands on every such line from top to bottom; of other sections those that can be read as one.
+// False, and the reason in German in `fault`, when the bytes are no control file; what was handed
+// on before is then worth nothing.
+bool readControlFile(std::string_view bytes, const ControlVisitor& visit, std::string& fault);
 
 // Lines are `KEY = text` or `KEY = "text"`, comments begin with ";" or "#". Of a key that stands
 // twice the first counts; other sections are skipped. nullopt, and the reason in German in `fault`,

@@ -31,6 +31,7 @@ void frm_DialogDone::design() {
     designFigures();
     arrange(lab_Mark, {kPictureLeft, kTop + kInset, kPicture.width + kMascot.width, 40},
             kReadingFont);
+    pic_Back.setAccessibleName("Bild zum Ergebnis");
     pic_Back.setPlace(kPictureLeft, bottom - 8 - kPicture.height, kPicture.width, kPicture.height);
     dra_Atom.setPlace(size.width - kDialogMargin - kInset - kMascot.width, kFloor, kMascot.width,
                       kMascot.height);
