@@ -1,5 +1,14 @@
 # Settings that every target of the project shares.
 
+include(GNUInstallDirs)
+set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/quendal)
+set(QUENDAL_INSTALLED_DATA ${CMAKE_INSTALL_FULL_DATADIR}/quendal/data)
+# The build folder is laid out like an installed program, so that both look in the same place.
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/share/quendal)
+file(CREATE_LINK ${CMAKE_SOURCE_DIR}/data ${CMAKE_BINARY_DIR}/share/quendal/data SYMBOLIC)
+file(CREATE_LINK ${CMAKE_SOURCE_DIR}/tests/scripts/tour.qs
+  ${CMAKE_BINARY_DIR}/share/quendal/tour.qs SYMBOLIC)
+
 add_library(quendal_options INTERFACE)
 target_compile_features(quendal_options INTERFACE cxx_std_20)
 # No contraction into fused operations: the numbers agree to the last bit on every machine.

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Shared by ./run and ./test: what Debian packages are needed, and how to build.
 
 build_packages=(
@@ -9,6 +10,8 @@ run_packages=(
 )
 test_packages=(
     clang libclang-rt-14-dev libgtest-dev libbenchmark-dev libmuparser-dev python3
+    desktop-file-utils appstream mandoc bsdextrautils lintian dpkg-dev file
+    xvfb dbus-daemon dbus-session-bus-common at-spi2-core python3-pyatspi python3-pil
 )
 
 say() { printf '== %s\n' "$*"; }

@@ -15,7 +15,8 @@ namespace fs = std::filesystem;
 std::vector<fs::path> candidates() {
     std::error_code fault;
     const fs::path program = fs::read_symlink("/proc/self/exe", fault).parent_path();
-    return {program / "data", program / ".." / "share" / "quendal" / "data", QUENDAL_SOURCE_DATA};
+    return {program / "data", program / ".." / "share" / "quendal" / "data",
+            QUENDAL_INSTALLED_DATA};
 }
 
 bool isFolder(const fs::path& path) {

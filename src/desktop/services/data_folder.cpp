@@ -22,14 +22,8 @@ QString firstFolder(const QStringList& candidates) {
 } // namespace
 
 QStringList DataFolder::candidates(const QString& programFolder) {
-    QStringList folders{programFolder + "/data", programFolder + "/../share/quendal/data"};
-#ifdef QUENDAL_INSTALLED_DATA
-    folders.append(QUENDAL_INSTALLED_DATA);
-#endif
-#ifdef QUENDAL_SOURCE_DATA
-    folders.append(QUENDAL_SOURCE_DATA);
-#endif
-    return folders;
+    return {programFolder + "/data", programFolder + "/../share/quendal/data",
+            QUENDAL_INSTALLED_DATA};
 }
 
 void DataFolder::choose(const QString& asked) {

@@ -10,9 +10,11 @@ namespace quendal {
 
 class DataFolder final : public PathService {
   public:
+    DataFolder() = default; // none until one is chosen
     // The folder that was asked for (--data), or else the first that is there of: beside the
-    // program, where a package installs it, the source tree. One line is logged when none is.
-    explicit DataFolder(const QString& asked = {}) { choose(asked); }
+    // program, in the share folder of its own prefix (a build folder has one too), where the
+    // package was meant to go. One line is logged when none is.
+    explicit DataFolder(const QString& asked) { choose(asked); }
     void choose(const QString& asked);
 
     std::string DataPath() const override { return path_; }
