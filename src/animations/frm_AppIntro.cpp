@@ -149,13 +149,21 @@ void frm_AppIntro::waitForClick() {
     CoreLib().Windows.waitWhile([this] { return !Clicked && !Aborted; });
 }
 
+void frm_AppIntro::tellStage() {
+    const std::string told = spokenStage();
+    if (told != pic_Stage.accessibleName()) {
+        pic_Stage.setAccessibleName(told);
+        announce(told);
+    }
+}
+
 void frm_AppIntro::hRender() {
     if (ShowPanel) {
         hBox(20, 50, 780, 520, palette(15), palette(8));
     }
     drawSprites();
     hTextRepeat();
-    pic_Stage.setAccessibleName(spokenStage());
+    tellStage();
     pic_Stage.drawn();
     ++frames_;
     CoreLib().Windows.DoEvents();

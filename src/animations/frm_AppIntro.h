@@ -210,6 +210,7 @@ class frm_AppIntro final : public Form {
     void printPlain(double x, double y, const std::string& text, const PrintStyle& style);
     void printMarked(Point place, std::string_view text, const FontSpec& base);
     std::string spokenStage() const;
+    void tellStage();
 
     double lineWidth() const;
     Rect onScreen(const Rect& design) const;

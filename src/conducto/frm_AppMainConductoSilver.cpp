@@ -20,6 +20,8 @@ const ConductoVariant& silverVariant() {
                   .readingName = "",
                   .readingUnit = "",
                   .readingDigits = {.direct = 2},
+                  .spokenReading = "Leitwert",
+                  .spokenUnit = " mS/cm",
                   .calculationTitle = kConductivityTitle,
                   .answerName = "G=",
                   // Both speak of the potential, as on the form with the silver electrode: meant.

@@ -20,6 +20,8 @@ const ConductoVariant& weakVariant() {
                   .readingName = "",
                   .readingUnit = "",
                   .readingDigits = {.direct = 2},
+                  .spokenReading = "Leitwert",
+                  .spokenUnit = " mS/cm",
                   .calculationTitle = kConductivityTitle,
                   .answerName = "G(ges)=",
                   .wrongDirect = kWrongConductivity,

@@ -26,6 +26,8 @@ WorkbenchVariant bench() {
     bench.curveByConcentration = false;
     bench.calculationTitle = "log (c)  ausrechnen";
     bench.answerName = "G(ges)=";
+    bench.spokenReading = "Ergebnis";
+    bench.spokenUnit = "";
     bench.wrongDirect = kWrongConductivity;
     bench.compareButton = "log(c)-Kurve anzeigen";
     bench.task.finished =

@@ -11,6 +11,8 @@ WorkbenchVariant dilutedStrongAcid() {
         .readingName = "",
         .readingUnit = "",
         .readingDigits = {.direct = 2},
+        .spokenReading = "Leitwert",
+        .spokenUnit = " mS/cm",
         .directHidesControls = true,
         .countsDirectHelp = true,
         .volumeNames = {"VµV(S)     = ", "VµZ(OH-) =", "cµV(S) =", "cµZ(OH-) = 1 mol/L"},

@@ -1,6 +1,8 @@
 #include "desktop/desktop_host.h"
 
 #include "desktop/services/product.h"
+#include "desktop/services/user_settings.h"
+#include "desktop/windows/accessible.h"
 #include "desktop/windows/look.h"
 #include "host/event_feed.h"
 #include "host/virtual_clock.h"
@@ -10,6 +12,8 @@
 #include <QTranslator>
 
 #include <clocale>
+
+#include <malloc.h>
 
 namespace quendal {
 
@@ -34,6 +38,13 @@ void speakGerman(QApplication& application) {
     }
 }
 
+// Pictures get memory of their own that goes back to the system with them. Left alone, the library
+// soon takes it from the heap, which never shrinks below what lies at its end.
+void giveBackLargeBlocks() {
+    constexpr int kLargeBlock = 1 << 17; // bytes
+    mallopt(M_MMAP_THRESHOLD, kLargeBlock);
+}
+
 } // namespace
 
 DesktopHost::DesktopHost(QApplication& application, const CommandLine& line,
@@ -52,12 +63,16 @@ DesktopHost::DesktopHost(QApplication& application, const CommandLine& line,
                                    .Random = orOwn<RandomSource>(standIns.random, ownRandom_),
                                    .Windows = windows_,
                                    .Screen = capture_} {
+    giveBackLargeBlocks();
     QApplication::setApplicationName(kProductName);
     QApplication::setApplicationDisplayName(kProductName);
     QApplication::setApplicationVersion(kProductVersion);
-    QApplication::setWindowIcon(
-        QIcon(QString::fromStdString(app_.PathService.DataPath() + "icons/quendal.svg")));
+    QGuiApplication::setDesktopFileName("quendal"); // its windows belong to this menu entry
+    QApplication::setWindowIcon(icons_.own("quendal"));
     look::apply(application);
+    look::setZoom(keptZoom());
+    windows_.setZoomKeeper(keepZoom);
+    installAccessible();
     speakGerman(application);
     installRoots(app_, coreLib_);
 }

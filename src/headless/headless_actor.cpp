@@ -134,6 +134,22 @@ void HeadlessActor::mouse(Form& form, Control* control, Point place, MouseButton
     }
 }
 
+// As the widgets of a screen take them.
+void HeadlessActor::stroke(Form& form, Stroke stroke) {
+    const int ahead = stroke == Stroke::Right || stroke == Stroke::Down ? 1 : -1;
+    const bool across = stroke == Stroke::Left || stroke == Stroke::Right;
+    Control* focused = form.focus();
+    if (auto* input = dynamic_cast<clt_TermInput*>(focused);
+        input != nullptr && stroke == Stroke::Backspace && !input->text().empty()) {
+        input->userTyped(input->text().substr(0, input->text().size() - 1));
+    } else if (auto* tabs = dynamic_cast<TabControl*>(focused); tabs != nullptr && across) {
+        tabs->userChose(tabs->tab() + ahead);
+    } else if (auto* list = dynamic_cast<ListBox*>(focused);
+               list != nullptr && stroke != Stroke::Backspace) {
+        list->userChose(list->listIndex() + ahead);
+    }
+}
+
 void HeadlessActor::menu(Menu& item) {
     item.userClicked();
 }

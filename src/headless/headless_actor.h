@@ -15,6 +15,7 @@ class HeadlessActor final : public ScriptActor {
     void check(CheckBox& box, bool on) override;
     void mouse(Form& form, Control* control, Point place, MouseButton button) override;
     void menu(Menu& item) override;
+    void stroke(Form& form, Stroke stroke) override;
     void close(Form& form) override;
     void command(ctl_CmdBar& bar, const std::string& command) override;
     void command(ctl_Executor& executor, const std::string& command) override;

@@ -3,6 +3,7 @@
 #include "headless/choose_data_folder.h"
 #include "headless/headless_actor.h"
 #include "headless/headless_host.h"
+#include "script/keyboard_actor.h"
 #include "script/script_player.h"
 #include "shell/session/session.h"
 
@@ -15,7 +16,9 @@ int playHeadless(const Script& script, const ScriptOptions& options,
     resetSession();
     HeadlessHost host(script.settings, chooseDataFolder(script.settings.data));
     HeadlessActor actor;
-    ScriptPlayer player(script, actor, {.keepGoing = options.keepGoing, .realClock = false}, out,
+    KeyboardActor keyboard(actor);
+    ScriptActor& hands = options.byKeys ? static_cast<ScriptActor&>(keyboard) : actor;
+    ScriptPlayer player(script, hands, {.keepGoing = options.keepGoing, .realClock = false}, out,
                         err);
     host.watch(&player, &player);
     try {

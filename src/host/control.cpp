@@ -135,6 +135,7 @@ void Control::describe(FieldTable& table) const {
     table.add("height", place_.height);
     table.add("textcolor", textColor_);
     table.add("icon", pictureIcon_);
+    table.add("description", description_);
     table.addGetter("focus", [this] { return FieldValue(hasFocus()); });
 }
 

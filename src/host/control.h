@@ -123,6 +123,10 @@ class Control {
     void setAccessibleName(std::string name) {
         assign(accessibleName_, std::move(name), Aspect::Text);
     }
+    // What a picture or a reading says in words, for who doesn't see it; the name doesn't repeat
+    // it.
+    const std::string& description() const { return description_; }
+    void setDescription(std::string text) { assign(description_, std::move(text), Aspect::Text); }
     const std::string& toolTip() const { return toolTip_; }
     void setToolTip(std::string text) { assign(toolTip_, std::move(text), Aspect::Text); }
 
@@ -182,6 +186,7 @@ class Control {
     std::string text_;
     std::string pictureIcon_;
     std::string accessibleName_;
+    std::string description_;
     std::string toolTip_;
     Rect place_;
     FontSpec font_;

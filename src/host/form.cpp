@@ -26,6 +26,15 @@ void Form::setCaption(std::string caption) {
     }
 }
 
+void Form::announce(std::string text) {
+    if (!text.empty()) {
+        announced_ = std::move(text);
+        if (shown_) {
+            CoreLib().Windows.announced(*this);
+        }
+    }
+}
+
 void Form::moveTo(const Rect& place) {
     wantedPlace_ = place;
     if (shown_) {
@@ -121,6 +130,7 @@ void Form::describe(FieldTable& table) const {
     table.add("caption", caption_);
     table.add("width", inner_.width);
     table.add("height", inner_.height);
+    table.add("announced", announced_);
 }
 
 void Form::resized(Size inner) {

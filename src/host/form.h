@@ -55,6 +55,10 @@ class Form {
     // Moves the focus to the next control of the tab chain, or back.
     void focusNext(bool backward = false);
 
+    // Tells a learner who doesn't see the screen what has just changed. An empty text says nothing.
+    void announce(std::string text);
+    const std::string& announced() const { return announced_; }
+
     // Key press by the learner: the form sees it first, then the control with the focus, then the
     // tab chain (Tab) or the form's bar of buttons (Enter and Escape). True when it was used up.
     bool userKey(Key key, const std::string& character = {});
@@ -86,6 +90,7 @@ class Form {
 
     std::string name_;
     std::string caption_;
+    std::string announced_; // last
     Size design_;
     Size inner_;
     Rect wantedPlace_;

@@ -52,6 +52,7 @@ class WindowSystem {
     // For controls and forms only: something changed that a host must show.
     virtual void captionChanged(Form& /*form*/) {}
     virtual void placeChanged(Form& /*form*/) {}
+    virtual void announced(Form& /*form*/) {}
 
   protected:
     // Works off what is pending without waiting.

@@ -194,6 +194,11 @@ class Performer {
         return Verdict::unknown("there is no menu item " + step.name);
     }
 
+    Verdict operator()(const HoldStep& step) {
+        actor_.hold(step.seconds);
+        return {};
+    }
+
     Verdict operator()(const CloseStep&) {
         return withTop([&](Form& top) { actor_.close(top); });
     }
@@ -254,7 +259,7 @@ struct IsAction {
                std::is_same_v<S, KeyStep> || std::is_same_v<S, ChooseStep> ||
                std::is_same_v<S, CheckStep> || std::is_same_v<S, MouseStep> ||
                std::is_same_v<S, MenuStep> || std::is_same_v<S, CloseStep> ||
-               std::is_same_v<S, CommandStep>;
+               std::is_same_v<S, CommandStep> || std::is_same_v<S, HoldStep>;
     }
 };
 

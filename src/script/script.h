@@ -29,8 +29,10 @@ struct ScriptSettings {
     std::uint64_t seed = 1;
     std::map<std::string, std::string> control; // teacher keys, in capitals
     std::string user = "schueler";
-    std::string name; // empty: the name box asks for it
-    std::string data; // data folder, empty: the program's own
+    std::string name;        // empty: the name box asks for it
+    std::string data;        // data folder, empty: the program's own
+    std::string controlFile; // that --control names; only the desktop reads one
+    std::string report;      // file for reports, empty: one that is thrown away; on the desktop
     Size screen{1366, 768};
     int sound = 0; // SoundOptions.Mode
     DecimalSign sign = DecimalSign::Comma;
@@ -100,6 +102,11 @@ struct UntilStep {
     double seconds = 60;
 };
 
+// The windows stand still for so many seconds of the real clock.
+struct HoldStep {
+    double seconds = 0;
+};
+
 // What it looks at.
 struct PrintStep {
     Thing thing;
@@ -137,7 +144,7 @@ using StepKind = std::variant<ClickStep, TypeStep, KeyStep, ChooseStep, CheckSte
                               MenuStep, CloseStep, CommandStep, StartStep, AnswerStep, WaitStep,
                               SettleStep, UntilStep, PrintStep, ExpectStep, ExpectBoxStep,
                               ExpectNoneStep, ExpectPresetsStep, ExpectSoundStep, ExpectReportStep,
-                              ExpectFormStep, ExpectEndedStep, DumpStep, ScreenshotStep>;
+                              ExpectFormStep, ExpectEndedStep, DumpStep, ScreenshotStep, HoldStep>;
 
 struct ScriptStep {
     int line = 0;     // from 1

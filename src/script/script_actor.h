@@ -14,6 +14,9 @@ class CheckBox;
 class Menu;
 class clt_TermInput;
 
+// Keys that write nothing and that the logic never hears of.
+enum class Stroke { Left, Right, Up, Down, Backspace };
+
 class ScriptActor {
   public:
     virtual ~ScriptActor() = default;
@@ -33,6 +36,12 @@ class ScriptActor {
     // A press at a place in the control's scale units; a null control stands for the form itself.
     virtual void mouse(Form& form, Control* control, Point place, MouseButton button) = 0;
     virtual void menu(Menu& item) = 0;
+    // The same without a mouse: its mnemonic, then down to the item.
+    virtual void menuByKeys(Menu& item) { menu(item); }
+    // To what has the focus on the form.
+    virtual void stroke(Form& form, Stroke stroke) = 0;
+    // The windows stand still for a time of the real clock, and answer whoever asks them.
+    virtual void hold(double /*seconds*/) {}
     // The close box of the window.
     virtual void close(Form& form) = 0;
     // The command is one of the bar's buttons.

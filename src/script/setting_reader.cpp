@@ -84,6 +84,16 @@ const SettingRow kSettings[] = {
          settings.data = words[1];
          return !words[1].empty();
      }},
+    {"controlfile", 2,
+     [](const Words& words, ScriptSettings& settings) {
+         settings.controlFile = words[1];
+         return !words[1].empty();
+     }},
+    {"report", 2,
+     [](const Words& words, ScriptSettings& settings) {
+         settings.report = words[1];
+         return !words[1].empty();
+     }},
     {"size", 2, readSize},
     {"sound", 2, readSound},
     {"locale", 2, readLocale},

@@ -118,6 +118,11 @@ Read readWait(const Words& words) {
     return time ? Read(WaitStep{*time}) : std::nullopt;
 }
 
+Read readHold(const Words& words) {
+    const auto time = seconds(words, 0, 0);
+    return time ? Read(HoldStep{*time}) : std::nullopt;
+}
+
 Read readSettle(const Words& words) {
     const auto time = seconds(words, 0, SettleStep{}.seconds);
     return time ? Read(SettleStep{*time}) : std::nullopt;
@@ -160,6 +165,7 @@ const StepRow kSteps[] = {
     {"command", 2, 2, readCommand},
     {"answer", 1, 2, readAnswer},
     {"wait", 1, 1, readWait},
+    {"hold", 1, 1, readHold},
     {"settle", 0, 1, readSettle},
     {"until", 3, 5, readUntil},
     {"print", 1, 1, readPrint},

@@ -26,6 +26,8 @@ const WorkbenchVariant& silverVariant() {
         .readingUnit = " V",
         // A direct answer leaves the reading as it is.
         .readingDigits = {.direct = std::nullopt, .guided = 2},
+        .spokenReading = "Potential",
+        .spokenUnit = " V",
         .calculationTitle = "Potential ausrechnen",
         .answerName = "E / V =",
         .wrongDirect = kWrongPotential,

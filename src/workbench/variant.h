@@ -78,12 +78,14 @@ struct WorkbenchVariant {
     std::string_view readingName; // term
     std::string_view readingUnit; // behind the reading, with its blank
     ReadingDigits readingDigits;
-    std::string_view calculationTitle; // of both calculation frames
-    std::string_view answerName;       // beside the direct input, term
-    std::string_view wrongDirect;      // question after a wrong direct answer
-    bool directHidesControls = false;  // while the direct input is open
-    bool countsDirectHelp = false;     // taking that help raises vHelpUsed
-    std::string_view compareTitle;     // of the comparison; empty: as the dialog has it
+    std::string_view spokenReading = "pH"; // what a point's value is called when it is announced
+    std::string_view spokenUnit;           // behind it, with its blank
+    std::string_view calculationTitle;     // of both calculation frames
+    std::string_view answerName;           // beside the direct input, term
+    std::string_view wrongDirect;          // question after a wrong direct answer
+    bool directHidesControls = false;      // while the direct input is open
+    bool countsDirectHelp = false;         // taking that help raises vHelpUsed
+    std::string_view compareTitle;         // of the comparison; empty: as the dialog has it
     std::string_view compareButton = "pH-Kurve anzeigen";
     std::array<std::string_view, 4> volumeNames; // sample, reagent, c of the sample, of the reagent
     bool totalVolumeShown = false; // the third value is the volume in the beaker, water included

@@ -148,6 +148,7 @@ void Workbench::drawLegend() {
         lab_Bilanz(index).setTerm(std::string(species.term));
         lab_Bilanz(index).setAccessibleName(std::string(species.spoken));
         lab_BilanzCount(index).setTag(species.kind);
+        picture.setAccessibleName("Zeichen für " + std::string(species.spoken));
     });
     drawLegendPictures();
 }
@@ -185,6 +186,7 @@ void Workbench::hTaskList(int line) {
         pic_Step(index).setVisible(index <= line);
         if (index <= line) {
             pic_Step(index).setPictureIcon(index == line ? kStepDue : kStepDone);
+            pic_Step(index).setAccessibleName(index == line ? "Jetzt dran" : "Erledigt");
         }
     });
     lab_Step1.setTextColor(lab_Step(1).textColor());

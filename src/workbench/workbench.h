@@ -233,6 +233,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     void hideScore();
     void showScoreOfErrors();
     void showResult();
+    void announceReading(double reading);
     void mainLoop();
 
     void hDropsStep();
@@ -247,6 +248,7 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
     double waterHeight() const; // px
     void showReading();
     void showBalance();
+    void tellBeaker();
     int balanceOf(const BalanceLine& species) const;
     void showVolumes();
     void showTotalVolume();
@@ -286,8 +288,10 @@ class Workbench : public Form, public WorkbenchTask, public ParticleScene, publi
         std::array<bool, 5> trace{};
         std::array<int, 2> volume{-1, -1};
         double concentration = -1;
-        std::optional<int> total; // mL
-        bool stillScene = false;  // nothing falls and the glasses stand as drawn
+        std::optional<int> total;     // mL
+        std::array<int, 21> counts{}; // particles by kind, as the beaker is described
+        std::optional<int> told;      // mL in the beaker when it was announced
+        bool stillScene = false;      // nothing falls and the glasses stand as drawn
     };
     Shown shown_;
 };

@@ -65,10 +65,12 @@ void Workbench::designApparatus() {
     pic_BowlOuter.setAccessibleName("Becherglas");
     pic_Bowl.setContainer(pic_BowlOuter);
     pic_Bowl.setPlace(20, 60, kApparatus.width - 40, 320);
+    pic_Bowl.setAccessibleName("Innenraum des Becherglases über der Flüssigkeit");
     pic_Water.setContainer(pic_BowlOuter);
     pic_Water.setAccessibleName("Teilchen in der Lösung");
     pic_Water.setVisible(false);
     pic_Glass.setContainer(pic_BowlOuter);
+    pic_Glass.setAccessibleName("Glas mit Skala in Milliliter");
     pic_Glass.setOverlay(true);
     pic_Glass.setPlace(0, 0, kApparatus.width, 400);
     for (PictureBox* picture : {&pic_Above, &pic_BowlOuter, &pic_Bowl}) {
@@ -106,6 +108,8 @@ void Workbench::designTaskSheet() {
     label(lab_Step(2), ctl_Frame2, {kTextLeft, kTops[2], kTextWidth, 78}, "", sheetFont);
     ctl_Button2.setVisible(false);
     ctl_Button3.setVisible(false);
+    pic_PipetteMark.setAccessibleName("Bild der Pipette");
+    pic_DropMark.setAccessibleName("Bild eines Tropfens");
     mark(pic_PipetteMark, {kTextLeft + 104, kTops[0] - 4, 26, 26},
          "Ico\\20\\Science\\Chemistry\\Pipette.ico");
     mark(pic_DropMark, {kTextLeft + 342, kReagentTop - 3, 24, 24},
@@ -114,7 +118,7 @@ void Workbench::designTaskSheet() {
     frame(frm_Reading, frm_Holder, {kMiddle, 392, kMiddleWidth, 96}, "Letzter Punkt");
     term(lab_pHName, frm_Reading, {16, 46, 140, 34}, std::string(variant().readingName), kLarge);
     label(lab_pH, frm_Reading, {160, 42, 270, 40}, "–", kReadingFont);
-    lab_pH.setAccessibleName("Zuletzt berechneter Wert");
+    lab_pH.setDescription("Zuletzt berechneter Wert");
 
     button(but_Calc, frm_Holder, {kMiddle, 640, 122, 42}, "Berechnen!");
     but_Calc.setVisible(false);
@@ -172,6 +176,8 @@ void Workbench::designScore() {
         line.value.setTextAlign(TextAlign::Right);
         top += 30;
     }
+    ctl_Image1.setAccessibleName("Richtig");
+    ctl_Image2.setAccessibleName("Falsch");
     ctl_Image1.setContainer(frm_Score);
     ctl_Image1.setPlace(12, 46, 18, 18);
     ctl_Image1.setPictureIcon("Ico\\16\\Computer\\Signs\\Ok.ico");

@@ -1,4 +1,5 @@
 // One frame of the workbench, and the pace of frames.
+#include "workbench/beaker_words.h"
 #include "workbench/workbench.h"
 
 #include "host/clock.h"
@@ -104,6 +105,7 @@ bool Workbench::settleBeaker() {
 void Workbench::hThinkDo() {
     hDropsStep();
     hBeakerStep(vCalm);
+    tellBeaker();
     showBalance();
     showVolumes();
     frameDone();
@@ -257,6 +259,19 @@ int Workbench::balanceOf(const BalanceLine& species) const {
         return roundToInt(session().SessionConcentration * 10 - vCount[kChloride]);
     }
     return vCount[static_cast<std::size_t>(species.kind)];
+}
+
+// Described at each change; announced when a dosing has come to rest.
+void Workbench::tellBeaker() {
+    if (vCount != shown_.counts) {
+        shown_.counts = vCount;
+        pic_Water.setDescription(beakerWords(vCount));
+    }
+    const bool atRest = vDrops.COUNT() == 0 && vCalm && !vMolecules.hasPairThatCanReact();
+    if (atRest && vVol > 0 && shown_.told != vVol) {
+        shown_.told = vVol;
+        announce(std::to_string(vSourceVol[1]) + " mL aus der Bürette. " + beakerWords(vCount));
+    }
 }
 
 void Workbench::showBalance() {

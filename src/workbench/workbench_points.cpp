@@ -138,6 +138,7 @@ void Workbench::recordPoint(double reading) {
 void Workbench::hPointDone(double reading) {
     recordPoint(reading);
     session().SessionChartView->Redraw(0);
+    announceReading(reading);
     if (vDemo) {
         return;
     }
@@ -152,6 +153,14 @@ void Workbench::hPointDone(double reading) {
     if (session().SessionMySeries->Data.LastX() == kLastPoint) {
         showResult();
     }
+}
+
+void Workbench::announceReading(double reading) {
+    const NumberService& numbers = CoreLib().NumberService;
+    announce(std::string(variant_.spokenReading) + " " +
+             numbers.Format(reading, variant_.readingDigits.guided) +
+             std::string(variant_.spokenUnit) + " nach " +
+             numbers.text(roundDecimals(titrantMl(), 2)) + " mL");
 }
 
 void Workbench::showResult() {

@@ -26,6 +26,8 @@ namespace {
 
 constexpr double kScreenWidth = 1024; // design px of the smallest screen the program is made for
 constexpr double kScreenHeight = 768;
+constexpr double kLargestWidth = 720; // design px of the largest box, the calculator
+constexpr double kLargestHeight = 600;
 constexpr double kMargin = 20; // design px
 constexpr double kGap = 8;
 constexpr double kTitleWidth = 520; // at most, as is its height
@@ -81,7 +83,11 @@ double boxScale() {
         return 1;
     }
     const QSize size = screen->size();
-    return std::max(1.0, std::min(size.width() / kScreenWidth, size.height() / kScreenHeight));
+    const double usual =
+        std::max(1.0, std::min(size.width() / kScreenWidth, size.height() / kScreenHeight));
+    // No box scrolls as a whole, so the zoom ends where the largest would leave the screen.
+    const double most = std::min(size.width() / kLargestWidth, size.height() / kLargestHeight);
+    return std::clamp(usual * look::zoom(), std::min(usual, 0.8), std::max(usual, most));
 }
 
 BoxWindow::BoxWindow(const QString& title, double scale)

@@ -2,6 +2,8 @@
 // window system's pump, so that timers of the forms beneath go on.
 #pragma once
 
+#include "desktop/windows/accessible.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -19,7 +21,7 @@ class WrappedText;
 // Design px to pixels for boxes: as large as the screen's lettering asks, never below 1.
 double boxScale();
 
-class BoxWindow : public QWidget {
+class BoxWindow : public QWidget, public Spoken {
     Q_OBJECT
   public:
     // An empty title leaves the title strip out.
@@ -27,6 +29,7 @@ class BoxWindow : public QWidget {
 
     double scale() const { return scale_; }
     int px(double design) const;
+    QAccessible::Role spokenRole() const override { return QAccessible::Dialog; }
 
     // Between the title and the buttons; margins are set.
     QVBoxLayout& body() { return *body_; }

@@ -31,6 +31,7 @@ WrappedText::WrappedText(const QString& text, const QFont& font, QSize most, QWi
     document()->setDefaultFont(font);
     setPlainText(text);
     setAccessibleName(text);
+    verticalScrollBar()->setAccessibleName(QStringLiteral("Senkrecht rollen"));
     spaceLines();
     fit(most);
 }

@@ -4,6 +4,7 @@
 #include "desktop/desktop_host.h"
 #include "desktop/script/desktop_script_actor.h"
 #include "host/virtual_clock.h"
+#include "script/keyboard_actor.h"
 #include "script/script.h"
 #include "script/script_options.h"
 #include "script/script_player.h"
@@ -69,9 +70,14 @@ void makeScreen(const QString& folder, Size size) {
 }
 
 std::string commandLineFor(const ScriptSettings& settings, const QString& folder) {
-    std::vector<std::string> words{"--report", folder.toStdString() + "/reports.jsonl"};
+    const std::string thrownAway = folder.toStdString() + "/reports.jsonl";
+    std::vector<std::string> words{"--report",
+                                   settings.report.empty() ? thrownAway : settings.report};
     if (!settings.data.empty()) {
         words.insert(words.end(), {"--data", settings.data});
+    }
+    if (!settings.controlFile.empty()) {
+        words.insert(words.end(), {"--control", settings.controlFile});
     }
     return joinArguments(words);
 }
@@ -110,7 +116,9 @@ int runDesktopScript(int argc, char** argv, const ScriptOptions& options,
         {.clock = options.scriptClock ? &clock : nullptr, .systemInfo = &user, .random = &random});
     applySettings(host, script.settings);
     DesktopScriptActor actor(host.windows());
-    ScriptPlayer player(script, actor,
+    KeyboardActor keyboard(actor);
+    ScriptActor& hands = options.byKeys ? static_cast<ScriptActor&>(keyboard) : actor;
+    ScriptPlayer player(script, hands,
                         {.keepGoing = options.keepGoing, .realClock = !options.scriptClock},
                         std::cout, std::cerr);
     host.setObserver(&player);

@@ -11,12 +11,16 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
 #include <QPointer>
 #include <QTabBar>
+#include <QTimer>
+
+#include <map>
 
 namespace quendal {
 
@@ -134,25 +138,55 @@ void DesktopScriptActor::mouse(Form& form, Control* control, Point place, MouseB
     }
 }
 
-// The menu of the bar is opened with the mouse and walked with the keyboard.
-void DesktopScriptActor::menu(Menu& item) {
+// The menu is opened in one of two ways and walked with the keyboard.
+void DesktopScriptActor::walkMenu(Menu& item,
+                                  const std::function<void(QMenuBar& bar, QAction& opener)>& open) {
     const FormWindow* window = windows_.windowOf(item.form());
     const Menu* head = item.parent() == nullptr ? &item : item.parent();
-    const QAction* opener = window == nullptr ? nullptr : window->actionOf(head->name());
+    QAction* opener = window == nullptr ? nullptr : window->actionOf(head->name());
     auto* bar = window == nullptr ? nullptr : window->findChild<QMenuBar*>();
     if (opener == nullptr || bar == nullptr) {
         return;
     }
-    clickAt(*bar, QRectF(bar->actionGeometry(const_cast<QAction*>(opener))).center());
+    open(*bar, *opener);
     QMenu* menu = opener->menu<QMenu*>();
     const QAction* wanted = window->actionOf(item.name());
-    for (const QAction* action : menu->actions()) {
+    while (menu->isVisible() && menu->activeAction() != wanted) {
+        const QAction* before = menu->activeAction();
         pressKey(*menu, Qt::Key_Down);
-        if (action == wanted) {
-            pressKey(*menu, Qt::Key_Return, QStringLiteral("\r"));
+        if (menu->activeAction() == before) {
             return;
         }
     }
+    pressKey(*menu, Qt::Key_Return, QStringLiteral("\r"));
+}
+
+void DesktopScriptActor::menu(Menu& item) {
+    walkMenu(item, [](QMenuBar& bar, QAction& opener) {
+        clickAt(bar, QRectF(bar.actionGeometry(&opener)).center());
+    });
+}
+
+void DesktopScriptActor::menuByKeys(Menu& item) {
+    walkMenu(item,
+             [](QMenuBar& bar, QAction& opener) { pressMnemonic(*bar.window(), opener.text()); });
+}
+
+void DesktopScriptActor::stroke(Form& form, Stroke stroke) {
+    static const std::map<Stroke, Qt::Key> kKeys{{Stroke::Left, Qt::Key_Left},
+                                                 {Stroke::Right, Qt::Key_Right},
+                                                 {Stroke::Up, Qt::Key_Up},
+                                                 {Stroke::Down, Qt::Key_Down},
+                                                 {Stroke::Backspace, Qt::Key_Backspace}};
+    if (FormWindow* window = windows_.windowOf(form)) {
+        pressKey(*window, kKeys.at(stroke));
+    }
+}
+
+void DesktopScriptActor::hold(double seconds) {
+    QEventLoop standing;
+    QTimer::singleShot(static_cast<int>(seconds * 1000), &standing, &QEventLoop::quit);
+    standing.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void DesktopScriptActor::close(Form& form) {

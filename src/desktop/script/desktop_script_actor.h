@@ -3,6 +3,10 @@
 
 #include "script/script_actor.h"
 
+#include <functional>
+
+class QAction;
+class QMenuBar;
 class QWidget;
 
 namespace quendal {
@@ -21,6 +25,9 @@ class DesktopScriptActor final : public ScriptActor {
     void check(CheckBox& box, bool on) override;
     void mouse(Form& form, Control* control, Point place, MouseButton button) override;
     void menu(Menu& item) override;
+    void menuByKeys(Menu& item) override;
+    void stroke(Form& form, Stroke stroke) override;
+    void hold(double seconds) override;
     void close(Form& form) override;
     void command(ctl_CmdBar& bar, const std::string& command) override;
     void command(ctl_Executor& executor, const std::string& command) override;
@@ -30,6 +37,7 @@ class DesktopScriptActor final : public ScriptActor {
     // What shows the control, or takes its focus; null when it isn't on the screen.
     QWidget* widgetOf(const Control& control) const;
     QWidget* targetOf(const Control& control) const;
+    void walkMenu(Menu& item, const std::function<void(QMenuBar& bar, QAction& opener)>& open);
 
     DesktopWindowSystem& windows_;
 };

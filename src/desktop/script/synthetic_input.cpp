@@ -2,10 +2,18 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWidget>
 #include <QWindow>
+
+// Shortcuts are looked up before a key becomes an event, by this routine of the library, which its
+// own tests use.
+extern Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, unsigned long time,
+                                                      int key, Qt::KeyboardModifiers modifiers,
+                                                      const QString& text, bool repeated,
+                                                      unsigned short count);
 
 namespace quendal {
 
@@ -46,6 +54,14 @@ void pressKey(QWidget& widget, int key, const QString& text) {
     }
     if (window != nullptr) {
         sendKey(*window, QEvent::KeyRelease, key, text);
+    }
+}
+
+void pressMnemonic(QWidget& window, const QString& text) {
+    const QKeySequence keys = QKeySequence::mnemonic(text);
+    QWindow* handle = window.windowHandle();
+    if (!keys.isEmpty() && handle != nullptr) {
+        qt_sendShortcutOverrideEvent(handle, 0, keys[0].key(), Qt::AltModifier, {}, false, 1);
     }
 }
 

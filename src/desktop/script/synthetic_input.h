@@ -14,6 +14,8 @@ void clickAt(QWidget& widget, QPointF place, Qt::MouseButton button = Qt::LeftBu
 void clickMiddle(QWidget& widget);
 // To the widget that has the focus of the window that `widget` stands in.
 void pressKey(QWidget& widget, int key, const QString& text = {});
+// Alt and the letter that the text marks with "&".
+void pressMnemonic(QWidget& window, const QString& text);
 void typeText(QWidget& widget, const QString& text);
 
 } // namespace quendal

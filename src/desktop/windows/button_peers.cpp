@@ -1,4 +1,5 @@
 // Buttons, bars of buttons, check boxes and options.
+#include "desktop/windows/accessible.h"
 #include "desktop/windows/button_face.h"
 #include "desktop/windows/form_window.h"
 #include "desktop/windows/look.h"
@@ -65,10 +66,17 @@ class ButtonPeer final : public WidgetPeer {
     ButtonFace* face_;
 };
 
+// Holds the buttons of a bar.
+class BarHolder final : public QWidget, public Spoken {
+  public:
+    using QWidget::QWidget;
+    QAccessible::Role spokenRole() const override { return QAccessible::ToolBar; }
+};
+
 class CmdBarPeer final : public WidgetPeer {
   public:
     CmdBarPeer(ctl_CmdBar& bar, FormWindow& window) : WidgetPeer(bar, window), bar_(bar) {
-        setWidget(new QWidget(&window.content()));
+        setWidget(new BarHolder(&window.content()));
         row_ = new QHBoxLayout(widget());
         row_->addStretch();
     }

@@ -2,6 +2,7 @@
 
 #include "desktop/pictures/picture_surface.h"
 #include "desktop/services/observer_link.h"
+#include "desktop/windows/look.h"
 #include "host/clock.h"
 #include "host/event_feed.h"
 #include "host/host_observer.h"
@@ -157,6 +158,12 @@ void DesktopWindowSystem::placeChanged(Form& form) {
     }
 }
 
+void DesktopWindowSystem::announced(Form& form) {
+    if (FormWindow* window = windowOf(form)) {
+        window->speak();
+    }
+}
+
 void DesktopWindowSystem::prepare(Form& form) {
     Surfaces surfaces;
     for (Control* control : form.controls()) {
@@ -224,7 +231,9 @@ void DesktopWindowSystem::place(Form& form, FormWindow& window) {
                        static_cast<int>(std::lround(asked.height * unit)))
                      .translated(room.topLeft());
     } else if (form.windowState() != WindowState::Maximised) {
-        wanted.setSize(window.sizeAt(dialogScale(form, window)).boundedTo(room.size()));
+        const double scale = dialogScale(form, window) * (form.scalesItself() ? 1 : look::zoom());
+        window.setAskedScale(form.scalesItself() || look::zoom() == 1 ? 0 : scale);
+        wanted.setSize(window.sizeAt(scale).boundedTo(room.size()));
         wanted.moveCenter(room.center());
     } else if (fillsScreen(form)) {
         wanted = wholeScreen(&form);
@@ -233,6 +242,25 @@ void DesktopWindowSystem::place(Form& form, FormWindow& window) {
         window.setGeometry(wanted);
     }
     window.arrange();
+}
+
+void DesktopWindowSystem::zoomAsked(int steps) {
+    const double before = look::zoom();
+    look::setZoom(look::zoomFrom(before, steps));
+    if (look::zoom() == before) {
+        return;
+    }
+    if (keepZoom_) {
+        keepZoom_(look::zoom());
+    }
+    for (FormWindow* window : shownWindows()) {
+        Form* form = window->form();
+        if (form != nullptr && form->windowState() != WindowState::Maximised) {
+            place(*form, *window);
+        } else {
+            window->arrange();
+        }
+    }
 }
 
 void DesktopWindowSystem::withdraw(Form& form) {

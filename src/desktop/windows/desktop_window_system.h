@@ -35,6 +35,8 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
     void setScreen(QSize size) { screen_ = size; }
     // What must be kept is flushed by these, in order, before the process ends.
     void atEnd(std::function<void()> hook) { endHooks_.push_back(std::move(hook)); }
+    // Told of each zoom that the learner asks for.
+    void setZoomKeeper(std::function<void(double zoom)> keeper) { keepZoom_ = std::move(keeper); }
     // The status that the process ends with; 0 where nobody says otherwise.
     void setExitStatus(std::function<int()> status) { exitStatus_ = std::move(status); }
 
@@ -44,6 +46,7 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
     [[noreturn]] void EndProcess() override;
     void captionChanged(Form& form) override;
     void placeChanged(Form& form) override;
+    void announced(Form& form) override;
 
     // The window of a form that is on the screen, else null.
     FormWindow* windowOf(const Form& form) const;
@@ -65,6 +68,7 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
     void closeAsked(Form& form) override { userClosed(form); }
     void innerSize(Form& form, Size inner) override { resize(form, inner); }
     IconLibrary& icons() override { return icons_; }
+    void zoomAsked(int steps) override;
 
     QRect available() const;
     double workbenchScale() const;
@@ -91,6 +95,7 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
     std::vector<Surfaces> oldSurfaces_;                // the same for surfaces
     std::vector<std::function<void()>> endHooks_;
     std::function<int()> exitStatus_;
+    std::function<void(double)> keepZoom_;
     MousePointer pointer_ = MousePointer::Normal;
 };
 

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QToolTip>
 
 #include <algorithm>
@@ -72,11 +73,12 @@ bool isModifier(const QKeyEvent& event) {
 
 FormWindow::FormWindow(Form& form, FormWindowOwner& owner, double mostScale)
     : QWidget(nullptr), form_(&form), owner_(owner), content_(new Content(*this)),
-      mostScale_(mostScale) {
+      live_(new LiveText(this)), room_(*this, *content_), mostScale_(mostScale) {
     setObjectName(QString::fromStdString(form.name()));
     setWindowTitle(QString::fromStdString(form.caption()));
     setFocusPolicy(Qt::NoFocus); // a click on the ground leaves the focus where it is
     makeMenus();
+    makeZoomKeys();
     makePeers();
 }
 
@@ -173,6 +175,24 @@ void FormWindow::containerChanged(const Control& container) {
     }
 }
 
+// With and without the shift key, and those of the number pad.
+void FormWindow::makeZoomKeys() {
+    struct ZoomKey {
+        const char* keys;
+        int steps;
+    };
+    for (const ZoomKey& key : {ZoomKey{"Ctrl++", 1}, ZoomKey{"Ctrl+=", 1}, ZoomKey{"Ctrl+-", -1},
+                               ZoomKey{"Ctrl+0", 0}}) {
+        auto* shortcut = new QShortcut(QKeySequence(QString(key.keys)), this);
+        connect(shortcut, &QShortcut::activated, this, [this, steps = key.steps] {
+            if (form_ != nullptr) {
+                const Visit visit(*this);
+                owner_.zoomAsked(steps);
+            }
+        });
+    }
+}
+
 int FormWindow::menuHeight() const {
     return menuBar_ == nullptr ? 0 : menuBar_->sizeHint().height();
 }
@@ -192,6 +212,12 @@ double FormWindow::fit(double menu) const {
         return 1;
     }
     return std::min({mostScale_, width() / design.width, (height() - menu) / design.height});
+}
+
+double FormWindow::zoomed(double menu) const {
+    // What stands at a place of its own goes by the window beneath, which is zoomed already.
+    const bool own = form_->scalesItself() || form_->wantedPlace().width > 0;
+    return askedScale_ > 0 ? askedScale_ : fit(menu) * (own ? 1 : look::zoom());
 }
 
 void FormWindow::setScale(double scale) {
@@ -217,6 +243,7 @@ void FormWindow::arrangeMenus(double scale) {
     }
     restyle(*menuBar_);
     menuBar_->setGeometry(0, 0, width(), menuHeight());
+    menuBar_->raise(); // what is scrolled goes beneath
 }
 
 void FormWindow::arrange() {
@@ -225,11 +252,14 @@ void FormWindow::arrange() {
     }
     // The height of the menu bar depends on the scale and the scale on what it leaves.
     const double guess = menuBar_ == nullptr ? 0 : kMenuGuess * fit(kMenuGuess);
-    look::setScale(*this, fit(guess));
-    arrangeMenus(fit(guess));
+    look::setScale(*this, zoomed(guess));
+    arrangeMenus(zoomed(guess));
     const int top = menuHeight();
-    content_->setGeometry(0, top, width(), std::max(1, height() - top));
-    setScale(std::max(kLeastScale, fit(top)));
+    setScale(std::max(kLeastScale, zoomed(top)));
+    const QRect below(0, top, width(), std::max(1, height() - top));
+    // At its usual scale the content fits; a pixel of rounding must not call for a scroll bar.
+    const bool larger = scale_ > fit(top);
+    room_.arrange(below, larger ? sizeAt(scale_) - QSize(0, top) : QSize(1, 1));
     for (const auto& peer : peers_) {
         peer->refresh();
     }
@@ -270,11 +300,30 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     }
 }
 
+void FormWindow::wheelEvent(QWheelEvent* event) {
+    room_.scrollBy(event->pixelDelta().isNull() ? -event->angleDelta() / 2 : -event->pixelDelta());
+}
+
+void FormWindow::reveal(const QWidget& widget) {
+    room_.reveal(QRect(widget.mapTo(content_, QPoint(0, 0)), widget.size()));
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
     // What a control's widget left over was offered already, in the event filter.
     const QWidget* focused = focusWidget();
     const bool mine = focused == nullptr || focused == this;
     event->setAccepted(mine && offerKey(nullptr, this, *event));
+}
+
+void FormWindow::speak() {
+    if (form_ != nullptr) {
+        live_->say(QString::fromStdString(form_->announced()));
+    }
+}
+
+QAccessible::Role FormWindow::spokenRole() const {
+    const bool whole = form_ == nullptr || form_->windowState() == WindowState::Maximised;
+    return whole ? QAccessible::Window : QAccessible::Dialog;
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -294,6 +343,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         return offerKey(peer, widget, *static_cast<QKeyEvent*>(event));
     }
     if (peer != nullptr) {
+        reveal(*widget);
         peer->noticeFocus();
     }
     return false;

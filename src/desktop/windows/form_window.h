@@ -1,6 +1,8 @@
 // The window of a form: menu bar, and all controls at one scale on a content widget.
 #pragma once
 
+#include "desktop/windows/accessible.h"
+#include "desktop/windows/scroll_room.h"
 #include "host/form.h"
 
 #include <QWidget>
@@ -23,9 +25,11 @@ class FormWindowOwner {
     virtual void closeAsked(Form& form) = 0;
     virtual void innerSize(Form& form, Size inner) = 0;
     virtual IconLibrary& icons() = 0;
+    // All windows larger (1), smaller (-1) or as they were at first (0).
+    virtual void zoomAsked(int steps) = 0;
 };
 
-class FormWindow final : public QWidget {
+class FormWindow final : public QWidget, public Spoken {
     Q_OBJECT
   public:
     // The logic is being told something: the window stays in being until the call has come back.
@@ -54,6 +58,8 @@ class FormWindow final : public QWidget {
 
     // Size of the window, menu bar included, for the form's design size at `scale`.
     QSize sizeAt(double scale) const;
+    // A window that can't be as large as its scale asks for scrolls; 0: all that fits.
+    void setAskedScale(double scale) { askedScale_ = scale; }
     // Fits everything to the present size and tells the form what it has inside.
     void arrange();
     // Makes peers for controls that have come since.
@@ -65,22 +71,31 @@ class FormWindow final : public QWidget {
     // The form's focus, after everything is there.
     void showFocus();
 
+    // Speaks what the form has announced last.
+    void speak();
+    QAccessible::Role spokenRole() const override;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     // The form alone knows the order of its controls.
     bool focusNextPrevChild(bool /*next*/) override { return false; }
 
   private:
     void makeMenus();
+    void makeZoomKeys();
+    void reveal(const QWidget& widget);
     void makePeers();
     void stack();
     int menuHeight() const;
     // The scale at which the content fits below a menu bar of this height.
     double fit(double menu) const;
+    // The same, and what the learner wants it larger.
+    double zoomed(double menu) const;
     void setScale(double scale);
     void arrangeMenus(double scale);
     bool offerKey(WidgetPeer* peer, QWidget* at, const QKeyEvent& key);
@@ -89,10 +104,13 @@ class FormWindow final : public QWidget {
     Form* form_;
     FormWindowOwner& owner_;
     QWidget* content_;
+    LiveText* live_;
+    ScrollRoom room_;
     QMenuBar* menuBar_ = nullptr;
     std::vector<std::unique_ptr<WidgetPeer>> peers_;
     double scale_ = 1;
     bool scaled_ = false;
+    double askedScale_ = 0;
     double mostScale_; // what the content isn't drawn larger than
     int visits_ = 0;
 };

@@ -107,9 +107,10 @@ class ListPeer final : public WidgetPeer {
 };
 
 // The page of a tab control: white, below the row of tabs.
-class TabPage final : public QWidget {
+class TabPage final : public QWidget, public Spoken {
   public:
     using QWidget::QWidget;
+    QAccessible::Role spokenRole() const override { return QAccessible::Grouping; }
     void setBarHeight(int height) { barHeight_ = height; }
 
   protected:
@@ -150,6 +151,7 @@ class TabPeer final : public WidgetPeer {
             const QString caption = trimmed(tabs_.captions()[static_cast<std::size_t>(i)]);
             i < bar_->count() ? bar_->setTabText(i, caption) : void(bar_->addTab(caption));
         }
+        bar_->setAccessibleName(spokenName(tabs_));
         placed();
         showTab();
     }

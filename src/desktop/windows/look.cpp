@@ -10,13 +10,18 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <iterator>
 
 namespace quendal::look {
 
 namespace {
 
 constexpr const char* kScaleProperty = "quendalScale";
+constexpr std::array kZooms = {0.7, 0.8, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0};
+
+double presentZoom = 1;
 
 QPalette lightPalette() {
     QPalette palette;
@@ -76,6 +81,26 @@ double scaleOf(const QWidget* widget) {
 
 void setScale(QWidget& window, double scale) {
     window.setProperty(kScaleProperty, scale);
+}
+
+double zoom() {
+    return presentZoom;
+}
+
+void setZoom(double zoom) {
+    presentZoom = std::clamp(zoom, kZooms.front(), kZooms.back());
+}
+
+double zoomFrom(double zoom, int steps) {
+    if (steps == 0) {
+        return 1;
+    }
+    const auto nearest = std::min_element(kZooms.begin(), kZooms.end(), [zoom](double a, double b) {
+        return std::abs(a - zoom) < std::abs(b - zoom);
+    });
+    const auto index =
+        std::clamp<std::ptrdiff_t>(nearest - kZooms.begin() + steps, 0, std::ssize(kZooms) - 1);
+    return kZooms[static_cast<std::size_t>(index)];
 }
 
 QFont font(const FontSpec& spec, double scale) {

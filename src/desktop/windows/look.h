@@ -49,6 +49,12 @@ double scaleOf(const QWidget* widget);
 // Marks the window with its scale; whoever builds a window sizes its fonts and places with it too.
 void setScale(QWidget& window, double scale);
 
+// How much larger than usual the learner wants all windows; 1 at first.
+double zoom();
+void setZoom(double zoom);
+// The next larger or smaller zoom that there is, `steps` of them on; 0 steps: 1.
+double zoomFrom(double zoom, int steps);
+
 // Fonts are set in whole pixels.
 QFont font(const FontSpec& spec, double scale);
 QFont font(double designSize, double scale, bool bold = false);

@@ -10,9 +10,17 @@ namespace quendal {
 
 namespace {
 
-class Canvas final : public QWidget {
+class Canvas final : public QWidget, public Spoken {
   public:
     Canvas(QWidget* parent, PaintedPeer& peer) : QWidget(parent), peer_(peer) {}
+
+    QAccessible::Role spokenRole() const override { return peer_.role(); }
+    bool pressable() const override { return isEnabled() && peer_.wantsPresses(); }
+    void pressSpoken() override {
+        if (isVisible() && pressable()) {
+            peer_.pressMiddle();
+        }
+    }
 
   protected:
     void paintEvent(QPaintEvent*) override {
@@ -58,6 +66,35 @@ PaintedPeer::PaintedPeer(Control& control, FormWindow& window) : WidgetPeer(cont
 
 bool PaintedPeer::wantsPresses() const {
     return control() != nullptr && (control()->onClick || control()->onMouse);
+}
+
+void PaintedPeer::pressMiddle() {
+    const QPointF at = unitsAt(QRectF(widget()->rect()).center());
+    report([this, at] { control()->userMouse(at.x(), at.y(), MouseButton::Left); });
+}
+
+QAccessible::Role PaintedPeer::role() const {
+    if (control() == nullptr) {
+        return QAccessible::Client;
+    }
+    switch (control()->kind()) {
+    case ControlKind::Label:
+    case ControlKind::TermLabel:
+        return QAccessible::StaticText;
+    case ControlKind::Title:
+        return QAccessible::Heading;
+    case ControlKind::StatusBar:
+        return QAccessible::StatusBar;
+    case ControlKind::Separator:
+    case ControlKind::Line:
+        return QAccessible::Separator;
+    case ControlKind::Frame:
+    case ControlKind::Panel:
+        // One that has no name only holds others together.
+        return spokenName(*control()).isEmpty() ? QAccessible::Client : QAccessible::Grouping;
+    default:
+        return QAccessible::Graphic;
+    }
 }
 
 QPointF PaintedPeer::unitsAt(QPointF pixel) const {

@@ -1,6 +1,7 @@
 // Base of the peers that draw their control themselves.
 #pragma once
 
+#include "desktop/windows/accessible.h"
 #include "desktop/windows/text_fit.h"
 #include "desktop/windows/widget_peer.h"
 
@@ -32,11 +33,15 @@ class PaintedPeer : public WidgetPeer {
     virtual void paint(QPainter& painter, const QRectF& box) = 0;
     // Presses go to the control where somebody waits for them, else to what lies behind.
     bool pressed(const QMouseEvent& event);
+    // Somebody waits for presses on the control.
+    bool wantsPresses() const;
+    // As a click in its middle.
+    void pressMiddle();
+    // What it is to a screen reader.
+    QAccessible::Role role() const;
 
   protected:
     void show() override;
-    // Somebody waits for presses on the control.
-    bool wantsPresses() const;
     // A place on the widget in the control's scale units.
     virtual QPointF unitsAt(QPointF pixel) const;
     QColor textColour() const;

@@ -24,6 +24,8 @@ RichTextView::RichTextView(QWidget* parent) : QTextBrowser(parent) {
     setOpenLinks(false);
     setFrameShape(QFrame::StyledPanel);
     setUndoRedoEnabled(false);
+    verticalScrollBar()->setAccessibleName(QStringLiteral("Senkrecht rollen"));
+    horizontalScrollBar()->setAccessibleName(QStringLiteral("Waagerecht rollen"));
 }
 
 void RichTextView::showFile(const QString& path, double scale) {

@@ -73,6 +73,13 @@ QString spokenName(const Control& control) {
     switch (control.kind()) {
     case ControlKind::TermLabel:
         return QString::fromStdString(plainTerm(control.text()));
+    case ControlKind::CmdBar:
+        return QStringLiteral("Schaltflächen");
+    case ControlKind::Title: {
+        const auto& title = static_cast<const ctl_Title&>(control);
+        const bool both = !title.title().empty() && !title.text().empty();
+        return shownText(title.title() + (both ? ": " : "") + title.text()).simplified();
+    }
     case ControlKind::TermInput:
     case ControlKind::ListBox:
         return {}; // the text is the value; what it means stands beside it
@@ -155,8 +162,7 @@ void WidgetPeer::apply(Aspect aspect) {
         showAspect(aspect);
         break;
     case Aspect::Text:
-        widget_->setAccessibleName(spokenName(*control_));
-        widget_->setToolTip(QString::fromStdString(control_->toolTip()));
+        applySpoken();
         showAspect(aspect);
         break;
     default:
@@ -171,10 +177,22 @@ void WidgetPeer::refresh() {
     const Telling telling(telling_);
     refreshPlace();
     applyEnabled();
-    widget_->setAccessibleName(spokenName(*control_));
-    widget_->setToolTip(QString::fromStdString(control_->toolTip()));
+    applySpoken();
     show();
     refreshVisibility();
+}
+
+// Setting what stands there already would be told to a screen reader as news.
+void WidgetPeer::applySpoken() {
+    const QString name = spokenName(*control_);
+    if (widget_->accessibleName() != name) {
+        widget_->setAccessibleName(name);
+    }
+    const QString description = shownText(control_->description());
+    if (widget_->accessibleDescription() != description) {
+        widget_->setAccessibleDescription(description);
+    }
+    widget_->setToolTip(QString::fromStdString(control_->toolTip()));
 }
 
 // A control may be moved into another container at any time.

@@ -70,6 +70,7 @@ class WidgetPeer : public ControlPeer {
   private:
     void apply(Aspect aspect);
     void applyEnabled();
+    void applySpoken();
     void standInContainer();
     void keepFocusFromMoving();
 
