@@ -267,8 +267,10 @@ void Workbench::tellBeaker() {
         shown_.counts = vCount;
         pic_Water.setDescription(beakerWords(vCount));
     }
-    const bool atRest = vDrops.COUNT() == 0 && vCalm && !vMolecules.hasPairThatCanReact();
-    if (atRest && vVol > 0 && shown_.told != vVol) {
+    const auto atRest = [this] {
+        return vDrops.COUNT() == 0 && vCalm && !vMolecules.hasPairThatCanReact();
+    };
+    if (vVol > 0 && shown_.told != vVol && atRest()) {
         shown_.told = vVol;
         announce(std::to_string(vSourceVol[1]) + " mL aus der Bürette. " + beakerWords(vCount));
     }
