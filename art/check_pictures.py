@@ -89,7 +89,8 @@ def pixels(path):
     numbers = unpacked(packed, data[at + 10])
     width, height = size_of(data)
     assert data[at] == 0x2C and not data[at + 9] and len(numbers) == width * height, path
-    return width, height, [tuple(palette[3 * n:3 * n + 3]) for n in numbers], [n == clear for n in numbers]
+    colours = [tuple(palette[i:i + 3]) for i in range(0, len(palette), 3)]
+    return width, height, [colours[n] for n in numbers], [n == clear for n in numbers]
 
 
 def check_twins(folder):
@@ -113,11 +114,14 @@ def check_lens(folder, zoom):
     left, top, right, bottom = (zoom * side for side in OPEN_PART)
     for y in range(top, bottom):
         assert set(mask[y * width + left:y * width + right]) == {white}, "open part is covered"
-    left, top, right, bottom = (zoom * side for side in FRAME)
-    for i, m in enumerate(mask):
-        x, y = i % width, i // width
-        handle = x >= zoom * HANDLE_FROM[0] and y >= zoom * HANDLE_FROM[1]
-        assert m == white or handle or (left <= x < right and top <= y < bottom), f"rim outside its frame at {x},{y}"
+    frame_left, frame_top, frame_right, frame_bottom = (zoom * side for side in FRAME)
+    handle_left, handle_top = (zoom * side for side in HANDLE_FROM)
+    for y in range(height):
+        row = mask[y * width:(y + 1) * width]
+        within = frame_top <= y < frame_bottom
+        end = handle_left if y >= handle_top else width
+        outside = row[:frame_left] + row[frame_right:end] if within else row[:end]
+        assert set(outside) <= {white}, f"rim outside its frame in row {y}"
 
 
 def check_slide(folder):

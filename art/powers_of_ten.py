@@ -128,7 +128,13 @@ def reach_of(place, turn, r, ion=False):
 
 
 def clearance(one, other):
-    return min(math.hypot(a[0] - b[0], a[1] - b[1]) - a[2] - b[2] for a in one for b in other)
+    least = math.inf
+    for x, y, r in one:
+        for u, v, s in other:
+            between = math.hypot(x - u, y - v) - r - s
+            if between < least:
+                least = between
+    return least
 
 
 def turned(places, turns, r):

@@ -39,12 +39,19 @@ function(quendal_library name)
   target_link_libraries(${name} PUBLIC quendal_options ${ARG_LINKS})
 endfunction()
 
+# Compiling the tests takes longer than running them: they themselves are hardly optimised.
+set(QUENDAL_TEST_OPTIONS $<$<CONFIG:Release>:-O1>)
+if(QUENDAL_SANITIZE)
+  set(QUENDAL_TEST_OPTIONS -O0)
+endif()
+
 # The tests of one folder, run under ctest one by one.
 function(quendal_tests name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE QUENDAL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  target_compile_options(${name} PRIVATE ${QUENDAL_TEST_OPTIONS})
   target_link_libraries(${name} PRIVATE quendal_options ${ARG_LINKS} GTest::gtest GTest::gtest_main)
   gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()

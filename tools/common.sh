@@ -11,6 +11,7 @@ run_packages=(
 test_packages=(
     clang libclang-rt-14-dev libgtest-dev libbenchmark-dev libmuparser-dev python3
     desktop-file-utils appstream mandoc bsdextrautils lintian dpkg-dev file
+    librsvg2-bin imagemagick
     xvfb dbus-daemon dbus-session-bus-common at-spi2-core python3-pyatspi python3-pil
 )
 

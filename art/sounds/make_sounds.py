@@ -53,14 +53,15 @@ class Track:
         count = round(seconds * RATE)
         hertz = pitch(name)
         sound = [0.0] * count
+        times = [i / RATE for i in range(count)]
+        falls = [2 ** (-bend * t / seconds / 12) for t in times]
         for multiple, strength, damping in overtones:
             if hertz * multiple > 0.45 * RATE:
                 continue
-            phase = 0.0
-            for i in range(count):
-                t = i / RATE
-                phase += 2 * math.pi * hertz * multiple * 2 ** (-bend * t / seconds / 12) / RATE
-                sound[i] += strength * math.exp(-decay * damping * t) * math.sin(phase)
+            phase, speed, loss = 0.0, 2 * math.pi * hertz * multiple, -decay * damping
+            for i, t in enumerate(times):
+                phase += speed * falls[i] / RATE
+                sound[i] += strength * math.exp(loss * t) * math.sin(phase)
         self.mix(start, [s * level * envelope(i, count, attack) for i, s in enumerate(sound)])
 
 

@@ -10,7 +10,8 @@ for icon in packaging/icons/*.png; do
         { echo "$icon has another size than its name"; exit 1; }
 done
 for tool in rsvg-convert compare; do
-    command -v "$tool" >/dev/null || { echo "Icons aren't drawn again: $tool is missing"; exit 0; }
+    command -v "$tool" >/dev/null ||
+        { echo "The icons can't be compared with their sources: $tool is missing (librsvg2-bin, imagemagick)"; exit 1; }
 done
 art/make_icons.sh "$folder"
 diff <(ls packaging/icons) <(ls "$folder")
