@@ -5,6 +5,7 @@
 #include "host/labels.h"
 #include "host/pictures.h"
 #include "host/roots.h"
+#include "host/utf8.h"
 #include "host/window_system.h"
 
 #include <algorithm>
@@ -141,7 +142,8 @@ void HeadlessActor::stroke(Form& form, Stroke stroke) {
     Control* focused = form.focus();
     if (auto* input = dynamic_cast<clt_TermInput*>(focused);
         input != nullptr && stroke == Stroke::Backspace && !input->text().empty()) {
-        input->userTyped(input->text().substr(0, input->text().size() - 1));
+        const std::string& text = input->text();
+        input->userTyped(text.substr(0, characterBegin(text, text.size() - 1)));
     } else if (auto* tabs = dynamic_cast<TabControl*>(focused); tabs != nullptr && across) {
         tabs->userChose(tabs->tab() + ahead);
     } else if (auto* list = dynamic_cast<ListBox*>(focused);

@@ -52,6 +52,16 @@ std::string seriesWords(const ChartSeries& series) {
     return text + ".";
 }
 
+// Empty for axes without titles, as they are without a curve that names them.
+std::string axesWords(const ChartDocument& document) {
+    const std::string x = plainTerm(document.xTitle);
+    const std::string y = plainTerm(document.yTitle);
+    if (x.empty()) {
+        return y.empty() ? "" : "Senkrecht " + y + ".";
+    }
+    return "Waagerecht " + x + (y.empty() ? "." : ", senkrecht " + y + ".");
+}
+
 } // namespace
 
 std::string chartWords(const ChartView& view) {
@@ -61,10 +71,9 @@ std::string chartWords(const ChartView& view) {
     if (empty) {
         return view.emptyNote;
     }
-    std::string text = "Waagerecht " + plainTerm(view.document().xTitle) + ", senkrecht " +
-                       plainTerm(view.document().yTitle) + ".";
+    std::string text = axesWords(view.document());
     for (const ChartSeries* series : shown) {
-        text += " " + seriesWords(*series);
+        text += (text.empty() ? "" : " ") + seriesWords(*series);
     }
     return text;
 }

@@ -24,9 +24,10 @@ enum class Aspect {
     Picture, // icon or picture
     Value,   // checked, chosen index, mood ...
     Items,
-    Focus,  // the control wants the focus
-    Order,  // brought to the front or sent to the back
-    Drawing // the picture box was drawn on
+    Focus,   // the control wants the focus
+    Order,   // brought to the front or sent to the back
+    Drawing, // the picture box was drawn on
+    Spoken   // what a screen reader is told beside the text, and the tool tip
 };
 
 // What a host attaches to a control. Told of real changes only, after the fact.
@@ -121,14 +122,14 @@ class Control {
     // What a screen reader says when the text alone doesn't tell; empty: the text.
     const std::string& accessibleName() const { return accessibleName_; }
     void setAccessibleName(std::string name) {
-        assign(accessibleName_, std::move(name), Aspect::Text);
+        assign(accessibleName_, std::move(name), Aspect::Spoken);
     }
     // What a picture or a reading says in words, for who doesn't see it; the name doesn't repeat
     // it.
     const std::string& description() const { return description_; }
-    void setDescription(std::string text) { assign(description_, std::move(text), Aspect::Text); }
+    void setDescription(std::string text) { assign(description_, std::move(text), Aspect::Spoken); }
     const std::string& toolTip() const { return toolTip_; }
-    void setToolTip(std::string text) { assign(toolTip_, std::move(text), Aspect::Text); }
+    void setToolTip(std::string text) { assign(toolTip_, std::move(text), Aspect::Spoken); }
 
     void bringToFront();
     void sendToBack();

@@ -4,6 +4,7 @@
 #include "host/labels.h"
 #include "host/panels.h"
 #include "host/pictures.h"
+#include "host/utf8.h"
 
 #include <algorithm>
 
@@ -90,14 +91,7 @@ namespace {
 
 // The first `limit` bytes without cutting a character in two.
 std::string cutText(const std::string& text, std::size_t limit) {
-    if (text.size() <= limit) {
-        return text;
-    }
-    std::size_t end = limit;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U) {
-        --end;
-    }
-    return text.substr(0, end);
+    return text.substr(0, characterBegin(text, limit));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "host/chart.h"
 #include "host/number_text.h"
+#include "host/utf8.h"
 
 #include <cmath>
 
@@ -21,6 +22,19 @@ std::vector<std::string_view> cells(std::string_view line) {
     }
     found.push_back(trimBlanks(line));
     return found;
+}
+
+// A heading as spreadsheets write it: in quotes, and those within are doubled.
+std::string heading(std::string_view cell) {
+    if (cell.size() < 2 || !cell.starts_with('"') || !cell.ends_with('"')) {
+        return std::string(cell);
+    }
+    std::string text;
+    for (std::size_t i = 1; i + 1 < cell.size(); ++i) {
+        text += cell[i];
+        i += cell.substr(i, 2) == "\"\"" && i + 2 < cell.size() ? 1 : 0;
+    }
+    return text;
 }
 
 std::optional<double> number(std::string_view cell) {
@@ -45,6 +59,10 @@ class CurveReader {
 
     // Empty when all went well.
     std::string read() {
+        if (!isUtf8(rest_)) {
+            lineNumber_ = lineOfForeignByte(rest_);
+            fail("Die Datei ist kein Text in UTF-8.");
+        }
         while (fault_.empty() && !rest_.empty()) {
             readLine(nextLine());
         }
@@ -103,10 +121,10 @@ class CurveReader {
             return fail("Es sind mehr als 32 Messreihen.");
         }
         for (std::size_t i = 1; i < names.size(); ++i) {
-            series_.emplace_back(std::string(names[i]));
+            series_.emplace_back(heading(names[i]));
         }
-        xTitle_ = xTitle_.empty() ? names[0] : xTitle_;
-        yTitle_ = yTitle_.empty() ? names[1] : yTitle_;
+        xTitle_ = xTitle_.empty() ? heading(names[0]) : xTitle_;
+        yTitle_ = yTitle_.empty() ? heading(names[1]) : yTitle_;
     }
 
     void readRow(const std::vector<std::string_view>& row) {
@@ -135,7 +153,7 @@ class CurveReader {
     std::string xTitle_;
     std::string yTitle_;
     std::vector<ChartSeries> series_;
-    int lineNumber_ = 0;
+    std::size_t lineNumber_ = 0;
     int rows_ = 0;
 };
 

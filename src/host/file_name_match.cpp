@@ -1,5 +1,7 @@
 #include "host/file_name_match.h"
 
+#include "host/utf8.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
@@ -32,15 +34,6 @@ constexpr char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// Bytes of the UTF-8 character at `at`.
-std::size_t characterLength(std::string_view text, std::size_t at) {
-    std::size_t length = 1;
-    while (at + length < text.size() && (text[at + length] & 0xC0) == 0x80) {
-        ++length;
-    }
-    return length;
-}
-
 bool matchesFolded(std::string_view name, std::string_view pattern) {
     std::size_t n = 0;
     std::size_t p = 0;
@@ -51,13 +44,13 @@ bool matchesFolded(std::string_view name, std::string_view pattern) {
             star = p++;
             starName = n;
         } else if (p < pattern.size() && pattern[p] == '?') {
-            n += characterLength(name, n);
+            n = characterEnd(name, n);
             ++p;
         } else if (p < pattern.size() && pattern[p] == name[n]) {
             ++n;
             ++p;
         } else if (star != std::string_view::npos) {
-            starName += characterLength(name, starName);
+            starName = characterEnd(name, starName);
             n = starName;
             p = star + 1;
         } else {

@@ -2,6 +2,7 @@
 
 #include "host/panels.h"
 #include "host/roots.h"
+#include "host/tab_order.h"
 #include "host/window_system.h"
 
 #include <algorithm>
@@ -58,23 +59,23 @@ void Form::setFocusTo(Control* control) {
     }
 }
 
+// From a control that is hidden by now it goes on where that stood.
 void Form::focusNext(bool backward) {
-    std::vector<Control*> chain;
-    for (Control* control : controls_) {
-        if (control->takesFocus() && control->shownThroughContainers() &&
-            control->enabledThroughContainers()) {
-            chain.push_back(control);
-        }
-    }
-    if (chain.empty()) {
-        return;
-    }
+    std::vector<Control*> order = tabOrder(*this);
     if (backward) {
-        std::reverse(chain.begin(), chain.end());
+        std::reverse(order.begin(), order.end());
     }
-    const auto at = std::find(chain.begin(), chain.end(), focus_);
-    const bool wraps = at == chain.end() || at + 1 == chain.end();
-    setFocusTo(wraps ? chain.front() : *(at + 1));
+    const auto at = std::find(order.begin(), order.end(), focus_);
+    if (at != order.end()) {
+        std::rotate(order.begin(), at + 1, order.end());
+    }
+    const auto next = std::find_if(order.begin(), order.end(), [](const Control* control) {
+        return control->takesFocus() && control->shownThroughContainers() &&
+               control->enabledThroughContainers();
+    });
+    if (next != order.end()) {
+        setFocusTo(*next);
+    }
 }
 
 namespace {

@@ -44,8 +44,8 @@ class Form {
     bool loaded() const { return loaded_; }
     bool shown() const { return shown_; }
 
-    // Controls in the order of their making, which is also their order from back to front and their
-    // order in the tab chain unless changed.
+    // Controls in the order of their making, which is also their order from back to front unless
+    // changed. Tab goes by their places: tab_order.h.
     const std::vector<Control*>& controls() const { return controls_; }
     Control* findControl(const std::string& name, int index = Control::kNoIndex) const;
     const std::vector<Menu*>& menus() const { return menus_; }

@@ -3,6 +3,7 @@
 
 #include "host/font.h"
 #include "host/geometry.h"
+#include "host/utf8.h"
 
 #include <string_view>
 
@@ -14,8 +15,7 @@ inline Size estimatedTextSize(std::string_view text, const FontSpec& font) {
     constexpr double kLineHeight = 1.15; // of the font's size
     std::size_t characters = 0;
     for (const char byte : text) {
-        const bool continues = (static_cast<unsigned char>(byte) & 0xc0U) == 0x80U;
-        characters += continues ? 0 : 1;
+        characters += continuesCharacter(byte) ? 0 : 1;
     }
     return {static_cast<double>(characters) * kWidth * font.size, kLineHeight * font.size};
 }

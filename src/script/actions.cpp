@@ -270,7 +270,9 @@ bool isAction(const StepKind& step) {
 }
 
 Verdict performAction(const StepKind& step, const Stage& stage, ScriptActor& actor) {
-    return std::visit(Performer(stage, actor), step);
+    const Verdict verdict = std::visit(Performer(stage, actor), step);
+    const std::string failure = actor.takeFailure();
+    return verdict.held() && !failure.empty() ? Verdict::impossible(failure) : verdict;
 }
 
 } // namespace quendal

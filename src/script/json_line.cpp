@@ -1,33 +1,12 @@
 #include "script/json_line.h"
 
+#include "host/utf8.h"
+
 #include <algorithm>
 
 namespace quendal {
 
 namespace {
-
-// Length in bytes of the well-formed character at the start of `text`; 0 when there is none.
-std::size_t characterLength(std::string_view text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned lead = byte(0);
-    if (lead < 0x80U) {
-        return 1;
-    }
-    const std::size_t length = lead >= 0xf0U ? 4 : lead >= 0xe0U ? 3 : 2;
-    if (lead < 0xc2U || lead > 0xf4U || text.size() < length) {
-        return 0;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xc0U) != 0x80U) {
-            return 0;
-        }
-    }
-    // Overlong forms, surrogates and what lies behind the last code point.
-    const unsigned second = byte(1);
-    const bool refused = (lead == 0xe0U && second < 0xa0U) || (lead == 0xedU && second >= 0xa0U) ||
-                         (lead == 0xf0U && second < 0x90U) || (lead == 0xf4U && second >= 0x90U);
-    return refused ? 0 : length;
-}
 
 void addControlSign(std::string& out, char c) {
     static constexpr char kDigits[] = "0123456789abcdef";
@@ -53,7 +32,7 @@ void addControlSign(std::string& out, char c) {
 std::string jsonText(std::string_view text) {
     std::string out = "\"";
     while (!text.empty()) {
-        const std::size_t length = characterLength(text);
+        const std::size_t length = utf8Length(text, 0);
         const char c = text.front();
         if (length == 0) {
             out += "\xef\xbf\xbd";

@@ -3,7 +3,7 @@
 #include "host/buttons.h"
 #include "host/form.h"
 #include "host/labels.h"
-#include "host/log.h"
+#include "host/utf8.h"
 
 #include <cstdlib>
 
@@ -27,7 +27,7 @@ bool KeyboardActor::tabTo(Control& control) {
         press(form, Key::Tab);
     }
     if (form.focus() != &control) {
-        logLine("no Tab leads to " + form.name() + "." + control.fullName());
+        failure_ = "no Tab leads to " + form.name() + "." + control.fullName();
         return false;
     }
     return true;
@@ -48,8 +48,10 @@ void KeyboardActor::type(clt_TermInput& input, const std::string& text) {
     for (std::size_t left = input.text().size(); left > 0 && !input.text().empty(); --left) {
         host_.stroke(form, Stroke::Backspace);
     }
-    for (const char character : text) {
-        press(form, Key::Other, std::string(1, character));
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = characterEnd(text, at);
+        press(form, Key::Other, text.substr(at, end - at));
+        at = end;
     }
 }
 

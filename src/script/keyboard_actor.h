@@ -4,6 +4,8 @@
 
 #include "script/script_actor.h"
 
+#include <utility>
+
 namespace quendal {
 
 class KeyboardActor final : public ScriptActor {
@@ -27,13 +29,15 @@ class KeyboardActor final : public ScriptActor {
     void command(ctl_Executor& executor, const std::string& command) override;
     bool screenshot(Form& form, const std::string& file) override;
     void hold(double seconds) override { host_.hold(seconds); }
+    std::string takeFailure() override { return std::exchange(failure_, {}); }
 
   private:
     void press(Form& form, Key key, const std::string& character = {});
-    // False, and a line on standard error, when Tab comes round without meeting the control.
+    // False, and a failure to take, when Tab comes round without meeting the control.
     bool tabTo(Control& control);
 
     ScriptActor& host_;
+    std::string failure_;
 };
 
 } // namespace quendal

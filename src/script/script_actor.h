@@ -50,6 +50,8 @@ class ScriptActor {
     // A PNG of the form as the learner sees it. False on a host without a screen, which then writes
     // nothing. A file that can't be written is logged and also gives false.
     virtual bool screenshot(Form& form, const std::string& file) = 0;
+    // Why an action since the last call couldn't be done; empty when all could.
+    virtual std::string takeFailure() { return {}; }
 };
 
 } // namespace quendal

@@ -1,5 +1,6 @@
 #include "script/step_reader.h"
 
+#include "host/utf8.h"
 #include "script/expect_reader.h"
 #include "script/values.h"
 
@@ -19,14 +20,8 @@ std::optional<double> seconds(const Words& words, std::size_t index, double othe
     return value && *value >= 0 ? value : std::nullopt;
 }
 
-// One character in UTF-8, by its lead byte and length.
 bool isOneCharacter(const std::string& text) {
-    if (text.empty()) {
-        return false;
-    }
-    const auto isFollower = [](char c) { return (static_cast<unsigned char>(c) & 0xc0U) == 0x80U; };
-    return text.size() <= 4 && !isFollower(text[0]) &&
-           std::all_of(text.begin() + 1, text.end(), isFollower);
+    return !text.empty() && utf8Length(text, 0) == text.size();
 }
 
 // Steps that are told by a control and perhaps one word more.

@@ -2,6 +2,7 @@
 
 #include "host/log.h"
 #include "host/number_service.h"
+#include "host/utf8.h"
 #include "shell/session/session.h"
 
 #include <algorithm>
@@ -39,11 +40,7 @@ std::optional<int> concentrationIndex(std::string_view text, int count) {
 
 std::string shownText(std::string_view text) {
     constexpr std::size_t kLimit = 40;
-    std::size_t end = std::min(text.size(), kLimit);
-    while (end > 0 && end < text.size() &&
-           (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U) {
-        --end;
-    }
+    const std::size_t end = characterBegin(text, std::min(text.size(), kLimit));
     std::string shown(text.substr(0, end));
     std::replace_if(
         shown.begin(), shown.end(),

@@ -43,5 +43,18 @@ TEST(ChartWords, TellPointsLastValueAndJump) {
               "größter Sprung von 2 auf 12,5 zwischen 10 und 20.");
 }
 
+TEST(ChartWords, LeaveOutTitlesThatAreMissing) {
+    NoPainter painter;
+    ChartDocument document(painter, "ph");
+    document.AddSeries(1, "Meine Punkte").Data.Add(0, 1);
+    const std::string points = "Meine Punkte: 1 Punkt, zuletzt 1 bei 0.";
+    EXPECT_EQ(chartWords(document.View()), points);
+    document.yTitle = "pH";
+    EXPECT_EQ(chartWords(document.View()), "Senkrecht pH. " + points);
+    document.xTitle = "V in mL";
+    document.yTitle = "";
+    EXPECT_EQ(chartWords(document.View()), "Waagerecht V in mL. " + points);
+}
+
 } // namespace
 } // namespace quendal

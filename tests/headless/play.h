@@ -21,15 +21,13 @@ struct Played {
 };
 
 inline Played play(const std::string& text, const std::function<void()>& program,
-                   bool keepGoing = false) {
+                   ScriptOptions options = {}) {
     ScriptFault fault;
     auto script = parseScript(text, fault);
     if (!script) {
         return {2, {}, "test:" + std::to_string(fault.line) + ": " + fault.message};
     }
     script->file = "test";
-    ScriptOptions options;
-    options.keepGoing = keepGoing;
     std::ostringstream out;
     std::ostringstream errors;
     const int status = playHeadless(*script, options, program, out, errors);

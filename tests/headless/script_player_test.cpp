@@ -8,7 +8,7 @@ namespace {
 
 // Plays lines behind "start" against the small form.
 Played playForm(const std::string& lines, bool keepGoing = false) {
-    return play("start\n" + lines, showSmallForm, keepGoing);
+    return play("start\n" + lines, showSmallForm, {.keepGoing = keepGoing});
 }
 
 void expectHeld(const std::string& lines) {

@@ -92,7 +92,8 @@ TEST(ScriptTime, AFormOnItsWayOutMayTakeAMoment) {
 }
 
 TEST(ScriptTime, UntilFailsWhenItsTimeIsUp) {
-    const Played played = play("start\nuntil form.sCount == 1 5\nprint clock", showSmallForm, true);
+    const Played played =
+        play("start\nuntil form.sCount == 1 5\nprint clock", showSmallForm, {.keepGoing = true});
     EXPECT_EQ(played.status, 1);
     EXPECT_TRUE(played.printed(R"("thing":"clock","value":"5")")) << played.out;
 }

@@ -123,7 +123,7 @@ bool SmallForm::Form_KeyDown(Key key) {
     if (key == Key::Escape) {
         sLast = "escape";
     }
-    return key == Key::Escape;
+    return key == Key::Escape || (key == Key::Tab && sKeepsTab);
 }
 
 void SmallForm::Form_MouseDown(double x, double y, MouseButton /*button*/) {
@@ -151,6 +151,12 @@ void showSmallForm() {
 void showBusyForm() {
     SmallForm form;
     form.sLoop = true;
+    CoreLib().Windows.ShowModal(form);
+}
+
+void showFormThatKeepsTab() {
+    SmallForm form;
+    form.sKeepsTab = true;
     CoreLib().Windows.ShowModal(form);
 }
 

@@ -65,6 +65,7 @@ class SmallForm final : public Form {
     int sTicks = 0;
     bool sLoop = false; // Activate runs frames until the form leaves
     bool sBusy = false;
+    bool sKeepsTab = false;
     std::string sLast; // what the learner did last
     std::array<bool, 3> sFlags{false, true, false};
     std::optional<double> sUnset;
@@ -83,5 +84,7 @@ class SmallForm final : public Form {
 void showSmallForm();
 // The same with a form that keeps drawing frames.
 void showBusyForm();
+// The same with a form that doesn't hand Tab on.
+void showFormThatKeepsTab();
 
 } // namespace quendal::test

@@ -72,8 +72,10 @@ TEST_F(Controls, TellTheirPeerOfRealChangesOnly) {
     form.but_Go.setTextColor(kBlack);
     form.but_Go.setPictureIcon("");
     form.but_Go.setBorderColors({1, 2, 3}, {240, 240, 240});
-    EXPECT_EQ(peer.aspects,
-              (std::vector<Aspect>{Aspect::Text, Aspect::Enabled, Aspect::Place, Aspect::Colours}));
+    form.but_Go.setDescription("Beginnt");
+    form.but_Go.setDescription("Beginnt");
+    EXPECT_EQ(peer.aspects, (std::vector<Aspect>{Aspect::Text, Aspect::Enabled, Aspect::Place,
+                                                 Aspect::Colours, Aspect::Spoken}));
 }
 
 TEST_F(Controls, ChangeBeforeTheyTell) {

@@ -58,6 +58,17 @@ TEST(CurveReader, BearsForeignFiles) {
     EXPECT_EQ(reading.document.Series(1).Data.Count(), 2);
 }
 
+TEST(CurveReader, TakesHeadingsOutOfQuotes) {
+    const Reading reading("\"V in mL\";\"pH\";\"Probe \"\"A\"\"\";\"\";\"\n0;1;2;3;4\n");
+    ASSERT_TRUE(reading.good) << reading.fault;
+    EXPECT_EQ(reading.document.xTitle, "V in mL");
+    EXPECT_EQ(reading.document.yTitle, "pH");
+    EXPECT_EQ(reading.document.Series(1).name, "pH");
+    EXPECT_EQ(reading.document.Series(2).name, "Probe \"A\"");
+    EXPECT_EQ(reading.document.Series(3).name, "");
+    EXPECT_EQ(reading.document.Series(4).name, "\"");
+}
+
 struct FaultRow {
     const char* text;
     const char* begins; // of the fault
@@ -84,7 +95,9 @@ const FaultRow kFaults[] = {
     {"x;y\n0;1 2\n", "Zeile 2: Eine Spalte"},
     {"x;y\n0;--1\n", "Zeile 2: Eine Spalte"},
     {"x;y\n0;1\n2;x\n3;4\n", "Zeile 3: Eine Spalte"},
-    {"GIF89a\x01\x02\n;\xFF\xFE\n", "Zeile 1: Die Kopfzeile"},
+    {"GIF89a\x01\x02\n;\xFF\xFE\n", "Zeile 2: Die Datei ist kein Text in UTF-8."},
+    {"x;y\n0;1\n# St\xE4rke\n", "Zeile 3: Die Datei ist kein Text in UTF-8."},
+    {"\xFF\xFEx\0;\0y\0\n", "Zeile 1: Die Datei ist kein Text in UTF-8."},
 };
 
 TEST(CurveReader, NamesTheLineOfTheFault) {

@@ -64,6 +64,18 @@ TEST_F(Forms, TheTabChainLeavesOutWhatCantBeReached) {
     EXPECT_EQ(form.focus(), &form.but_A); // nowhere to go
 }
 
+TEST_F(Forms, FromAHiddenControlTheFocusGoesOnWhereThatStood) {
+    form.txt_B.setFocus();
+    form.txt_B.setVisible(false);
+    form.focusNext();
+    EXPECT_EQ(form.focus(), &form.but_C);
+    form.txt_B.setVisible(true);
+    form.txt_B.setFocus();
+    form.txt_B.setVisible(false);
+    form.focusNext(true);
+    EXPECT_EQ(form.focus(), &form.but_A);
+}
+
 TEST_F(Forms, FocusGoesOnlyWhereItCanStand) {
     form.lab_Text.setFocus();
     EXPECT_EQ(form.focus(), nullptr);

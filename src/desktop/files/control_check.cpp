@@ -177,20 +177,6 @@ std::string title(std::string_view name) {
     return "Steuerdatei „" + repairedUtf8(name) + "“\n";
 }
 
-// Where the first byte stands that is no UTF-8, as a line from 1.
-std::ptrdiff_t lineOfForeignByte(std::string_view bytes) {
-    std::size_t at = 0;
-    while (at < bytes.size()) {
-        const std::size_t length = utf8Length(bytes, at);
-        if (length == 0) {
-            break;
-        }
-        at += length;
-    }
-    const auto end = bytes.begin() + static_cast<std::ptrdiff_t>(at);
-    return 1 + std::count(bytes.begin(), end, '\n');
-}
-
 // What a teacher can do about a file that is refused; empty when the reason says it all.
 std::string remedy(std::string_view bytes) {
     if (bytes.size() > kControlFileLimit) {

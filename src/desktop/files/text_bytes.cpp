@@ -18,19 +18,6 @@ void put(std::string& text, char32_t bits) {
     text += static_cast<char>(bits);
 }
 
-std::size_t expectedLength(unsigned char lead) {
-    if (lead < 0x80) {
-        return 1;
-    }
-    if (lead >= 0xC2 && lead <= 0xDF) {
-        return 2;
-    }
-    if ((lead & 0xF0) == 0xE0) {
-        return 3;
-    }
-    return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
-}
-
 } // namespace
 
 void appendUtf8(std::string& text, char32_t character) {
@@ -58,37 +45,6 @@ char32_t fromCp1252(unsigned char byte) {
     }
     const char16_t character = kCp1252[byte - 0x80];
     return character != 0 ? character : kReplacementCharacter;
-}
-
-std::size_t utf8Length(std::string_view text, std::size_t at) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[at + i]); };
-    const std::size_t length = at < text.size() ? expectedLength(byte(0)) : 0;
-    if (length < 2) {
-        return length;
-    }
-    if (at + length > text.size()) {
-        return 0;
-    }
-    char32_t value = byte(0) & (0x7F >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0) != 0x80) {
-            return 0;
-        }
-        value = (value << 6) | (byte(i) & 0x3F);
-    }
-    constexpr char32_t kLeast[5] = {0, 0, 0x80, 0x800, 0x10000};
-    return value >= kLeast[length] && isCharacter(value) ? length : 0;
-}
-
-bool isUtf8(std::string_view text) {
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = utf8Length(text, at);
-        if (length == 0) {
-            return false;
-        }
-        at += length;
-    }
-    return true;
 }
 
 std::string repairedUtf8(std::string_view text) {

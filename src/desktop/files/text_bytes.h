@@ -1,7 +1,8 @@
 // Bytes to Unicode and back, for the readers of text files.
 #pragma once
 
-#include <cstddef>
+#include "host/utf8.h"
+
 #include <string>
 #include <string_view>
 
@@ -15,11 +16,6 @@ void appendUtf8(std::string& text, char32_t character);
 // The character of a byte of the Windows code page 1252; its five holes give the replacement
 // character.
 char32_t fromCp1252(unsigned char byte);
-
-// Length in bytes of the well-formed UTF-8 character at `at`, 0 when there is none.
-std::size_t utf8Length(std::string_view text, std::size_t at);
-
-bool isUtf8(std::string_view text);
 
 // `text` with every byte that is no part of a character replaced.
 std::string repairedUtf8(std::string_view text);

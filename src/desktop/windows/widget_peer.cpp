@@ -165,6 +165,9 @@ void WidgetPeer::apply(Aspect aspect) {
         applySpoken();
         showAspect(aspect);
         break;
+    case Aspect::Spoken: // nothing of it is seen
+        applySpoken();
+        break;
     default:
         showAspect(aspect);
     }
