@@ -46,5 +46,6 @@ int main(int argc, char** argv) {
     }
     QApplication application(argc, argv);
     DesktopHost host(application, line);
+    host.useKeptSettings();
     runSession(text);
 }

@@ -70,8 +70,7 @@ DesktopHost::DesktopHost(QApplication& application, const CommandLine& line,
     QGuiApplication::setDesktopFileName("quendal"); // its windows belong to this menu entry
     QApplication::setWindowIcon(icons_.own("quendal"));
     look::apply(application);
-    look::setZoom(keptZoom());
-    windows_.setZoomKeeper(keepZoom);
+    look::setZoom(1);
     installAccessible();
     speakGerman(application);
     installRoots(app_, coreLib_);
@@ -79,6 +78,11 @@ DesktopHost::DesktopHost(QApplication& application, const CommandLine& line,
 
 DesktopHost::~DesktopHost() {
     clearRoots();
+}
+
+void DesktopHost::useKeptSettings() {
+    look::setZoom(keptZoom());
+    windows_.setZoomKeeper(keepZoom);
 }
 
 void DesktopHost::setFeed(EventFeed* feed) {

@@ -37,6 +37,10 @@ class DesktopHost {
     DesktopHost(const DesktopHost&) = delete;
     DesktopHost& operator=(const DesktopHost&) = delete;
 
+    // Takes over what the user has set before, and keeps what changes from now on. Scripts and
+    // tests do without, so that they see the same whoever plays them.
+    void useKeptSettings();
+
     // Who watches and stands in for the learner; null: nobody.
     void setObserver(HostObserver* observer) { link_.observer = observer; }
     void setFeed(EventFeed* feed);

@@ -16,6 +16,7 @@ quendal_tests(desktop_services_test
     services_rich_text_test.cpp
     services_rtf_test.cpp
     services_sound_test.cpp
+    services_user_settings_test.cpp
     wmf_reader_test.cpp
   LINKS quendal_desktop quendal_test_support)
 

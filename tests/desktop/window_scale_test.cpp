@@ -85,7 +85,13 @@ INSTANTIATE_TEST_SUITE_P(Screens, ScaleTest,
                          testing::Values(QSize(1024, 768), QSize(1366, 768), QSize(1920, 1080),
                                          QSize(3840, 2160)));
 
-using WindowScaleTest = WindowTest;
+class WindowScaleTest : public WindowTest {
+  protected:
+    void zoom(int count) {
+        FormWindowOwner& owner = host.windows();
+        owner.zoomAsked(count);
+    }
+};
 
 TEST_F(WindowScaleTest, AFormThatScalesItselfIsShownOneToOne) {
     Form form("frm_Stage", {400, 300});
@@ -105,6 +111,66 @@ TEST_F(WindowScaleTest, ADialogLeavesRoomOnTheScreenAndKeepsItsShape) {
     EXPECT_LE(window.scale(), 2.2);
     EXPECT_NEAR(form.inner().width, 400, 2);
     EXPECT_NEAR(form.inner().height, 300, 2);
+    host.windows().Unload(form);
+}
+
+TEST_F(WindowScaleTest, AFormAtAPlaceOfItsOwnStaysOnTheScreenWhateverTheZoom) {
+    Form below("frm_Below", {1000, 690});
+    below.setWindowState(WindowState::Maximised);
+    Form form("frm_Placed", {400, 300});
+    form.moveTo({400, 90, 580, 590});
+    const auto seen = [this, &form] {
+        const FormWindow& window = *host.windows().windowOf(form);
+        EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()))
+            << look::zoom();
+        EXPECT_GE(window.content().height() / window.scale(), 300 - 1) << look::zoom();
+        EXPECT_LE(window.content().height(), window.height()) << look::zoom();
+    };
+    look::setZoom(1);
+    host.windows().Show(below);
+    host.windows().windowOf(below)->setWindowModality(Qt::ApplicationModal);
+    host.windows().Show(form);
+    for (int step = 0; step < 8; ++step) {
+        zoom(1);
+        seen();
+    }
+    host.windows().Unload(form);
+    host.windows().Show(form); // anew, when all is large already
+    seen();
+    zoom(0);
+    seen();
+    host.windows().Unload(form);
+    host.windows().Unload(below);
+}
+
+// 640 x 480 is the size that the toolkit gives to every window that has none yet.
+TEST_F(WindowScaleTest, AZoomedDialogKeepsToAScreenOfTheToolkitsOwnSize) {
+    Form form("frm_Dialog", {960, 600});
+    host.windows().setScreen({640, 480});
+    look::setZoom(3);
+    host.windows().Show(form);
+    EXPECT_EQ(host.windows().windowOf(form)->size(), QSize(640, 480));
+    host.windows().Unload(form);
+    host.windows().setScreen({});
+    look::setZoom(1);
+}
+
+TEST_F(WindowScaleTest, WhatHasTheFocusStaysInSightWhenTheScaleChanges) {
+    Form form("frm_Large", {1000, 690});
+    form.setWindowState(WindowState::Maximised);
+    ctl_Button but_Low{form, "but_Low"};
+    but_Low.setPlace(860, 640, 120, 30);
+    look::setZoom(1);
+    host.windows().Show(form);
+    but_Low.setFocus();
+    FormWindow& window = *host.windows().windowOf(form);
+    const QWidget& button = *window.peerOf(but_Low)->widget();
+    for (int step = 0; step < 6; ++step) {
+        zoom(1);
+        const QRect place(button.mapTo(&window, QPoint(0, 0)), button.size());
+        EXPECT_TRUE(window.rect().contains(place)) << look::zoom();
+    }
+    zoom(0);
     host.windows().Unload(form);
 }
 

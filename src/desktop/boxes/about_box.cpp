@@ -2,12 +2,13 @@
 
 #include "desktop/boxes/wrapped_text.h"
 #include "desktop/services/product.h"
+#include "desktop/windows/accessible.h"
 #include "desktop/windows/look.h"
 #include "desktop/windows/text_fit.h"
 #include "host/calculator.h"
 #include "host/sound.h"
 
-#include <QFrame>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -33,6 +34,16 @@ constexpr const char* kLicence =
 QString orElse(const std::string& text, const char* otherwise) {
     return text.empty() ? QString(otherwise) : shownText(text);
 }
+
+// Parts what stands above it from what stands below.
+class Rule final : public QWidget, public Spoken {
+  public:
+    Rule(int height, QWidget* parent) : QWidget(parent) { setFixedHeight(height); }
+    QAccessible::Role spokenRole() const override { return QAccessible::Separator; }
+
+  protected:
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), look::kBorder); }
+};
 
 QString builtWith() {
     return QString("Erstellt mit Qt %1 (LGPL 3) und QCustomPlot %2 (GPL 3); Symbole aus Breeze "
@@ -66,10 +77,7 @@ void AboutBox::addText(const QString& text, double size, bool bold) {
 }
 
 void AboutBox::addLine() {
-    auto* line = new QFrame(this);
-    line->setFixedHeight(std::max(1, px(1)));
-    line->setStyleSheet("background: " + look::kBorder.name());
-    body().addWidget(line);
+    body().addWidget(new Rule(std::max(1, px(1)), this));
 }
 
 } // namespace quendal

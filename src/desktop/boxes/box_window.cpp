@@ -33,6 +33,15 @@ constexpr double kGap = 8;
 constexpr double kTitleWidth = 520; // at most, as is its height
 constexpr double kTitleHeight = 110;
 
+// What the box is to be in the middle of. While the window system hasn't yet put the window below
+// on the screen, where that says it is means nothing.
+QRect surroundings(const QWidget* below, const QRect& screen) {
+    const QWindow* window = below != nullptr ? below->windowHandle() : nullptr;
+    const bool placed = window != nullptr && window->isExposed() &&
+                        screen.contains(below->frameGeometry().center());
+    return placed ? below->frameGeometry() : screen;
+}
+
 QScreen* screenOf(const QWidget* below) {
     return below != nullptr ? below->screen() : QGuiApplication::primaryScreen();
 }
@@ -185,8 +194,8 @@ int BoxWindow::run(const std::function<void()>& learner, std::optional<QPoint> p
 void BoxWindow::putOnScreen(const QWidget* below, std::optional<QPoint> place) {
     adjustSize();
     const QRect screen = screenOf(below)->availableGeometry();
-    const QRect around = below != nullptr ? below->frameGeometry() : screen;
-    const QPoint wanted = place.value_or(around.center() - rect().center());
+    const QPoint middle = surroundings(below, screen).center();
+    const QPoint wanted = place.value_or(middle - rect().center());
     const int left = std::min(wanted.x(), screen.right() + 1 - width());
     const int top = std::min(wanted.y(), screen.bottom() + 1 - height());
     move(std::max(left, screen.left()), std::max(top, screen.top()));

@@ -62,6 +62,7 @@ constexpr double kKeyWidth = 50; // design px
 constexpr double kKeyHeight = 46;
 constexpr double kGap = 6;
 constexpr double kFaceSize = 17;
+constexpr double kArrowSize = 26; // the line of an arrow is thinner than that of a letter
 
 struct KeyColours {
     QColor fill;
@@ -111,7 +112,8 @@ void CalculatorKeypad::addKey(int index) {
     button->setObjectName(QString("key ") + key.face);
     button->setAccessibleName(key.said);
     button->setToolTip(key.action == Action::Type ? QString() : QString(key.said));
-    button->setFont(look::font(kFaceSize, scale_, key.rank() != Rank::Digit));
+    const double faceSize = key.action == Action::Erase ? kArrowSize : kFaceSize;
+    button->setFont(look::font(faceSize, scale_, key.rank() != Rank::Digit));
     // The display keeps the focus: what is typed always goes there.
     button->setFocusPolicy(Qt::NoFocus);
     button->setStyleSheet(keyStyle(key.rank(), scale_));

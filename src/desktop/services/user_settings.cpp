@@ -24,7 +24,12 @@ double keptZoom() {
     const QSettings settings(settingsFile(), QSettings::IniFormat);
     bool number = false;
     const double zoom = settings.value(kZoom, 1).toDouble(&number);
-    return number && zoom >= kLeast && zoom <= kMost ? zoom : 1;
+    if (number && zoom >= kLeast && zoom <= kMost) {
+        return zoom;
+    }
+    logLine("Die Vergrößerung in \"" + settingsFile().toStdString() +
+            "\" zählt nicht: sie ist keine Zahl von 0.5 bis 4");
+    return 1;
 }
 
 void keepZoom(double zoom) {
@@ -32,7 +37,8 @@ void keepZoom(double zoom) {
     settings.setValue(kZoom, zoom);
     settings.sync();
     if (settings.status() != QSettings::NoError) {
-        logLine("the scale can't be kept in " + settingsFile().toStdString());
+        logLine("Die Vergrößerung kann nicht in \"" + settingsFile().toStdString() +
+                "\" behalten werden");
     }
 }
 

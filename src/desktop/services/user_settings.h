@@ -3,7 +3,7 @@
 
 namespace quendal {
 
-// 1 where nothing is kept or what is kept makes no sense.
+// 1 where nothing is kept; also, with a logged line, where what is kept makes no sense.
 double keptZoom();
 // A folder that can't be written keeps nothing; that is logged.
 void keepZoom(double zoom);

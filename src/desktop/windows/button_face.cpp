@@ -70,7 +70,7 @@ void ButtonFace::paintEvent(QPaintEvent*) {
     look::drawBox(painter, rect(), corner, shown.fill, shown.border, border);
     paintContent(painter, shown.ink);
     if (hasFocus()) {
-        look::drawFocus(painter, rect(), corner, scale_);
+        look::drawFocus(painter, look::focusRoom(rect(), strong, scale_), corner, scale_);
     }
 }
 

@@ -9,14 +9,19 @@
 #include "host/pictures.h"
 #include "host/virtual_clock.h"
 
+#include <QAbstractEventDispatcher>
+#include <QAccessible>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QScreen>
 #include <QWindow>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <thread>
 
 namespace quendal {
 
@@ -34,6 +39,17 @@ constexpr double kLongestWait = 3600; // s; the loop that waits looks again
 // Without a frame and maximised: over all, panels of the desktop too.
 bool fillsScreen(const Form& form) {
     return form.frameless() && form.windowState() == WindowState::Maximised;
+}
+
+// As it is where it fits; else in the middle, with air for a frame.
+QRect fittedInto(const QRect& room, const QRect& window) {
+    if (room.contains(window)) {
+        return window;
+    }
+    const QSize most = (QSizeF(room.size()) * kShareOfScreen).toSize();
+    QRect fitted(QPoint(), window.size().boundedTo(most));
+    fitted.moveCenter(room.center());
+    return fitted;
 }
 
 } // namespace
@@ -230,6 +246,8 @@ void DesktopWindowSystem::place(Form& form, FormWindow& window) {
                        static_cast<int>(std::lround(asked.width * unit)),
                        static_cast<int>(std::lround(asked.height * unit)))
                      .translated(room.topLeft());
+        wanted = fittedInto(room, wanted);
+        window.setMostScale(unit); // the learner may have changed it meanwhile
     } else if (form.windowState() != WindowState::Maximised) {
         const double scale = dialogScale(form, window) * (form.scalesItself() ? 1 : look::zoom());
         window.setAskedScale(form.scalesItself() || look::zoom() == 1 ? 0 : scale);
@@ -238,7 +256,8 @@ void DesktopWindowSystem::place(Form& form, FormWindow& window) {
     } else if (fillsScreen(form)) {
         wanted = wholeScreen(&form);
     }
-    if (window.geometry() != wanted) {
+    // A window that was never given a size takes that of its content when it is shown.
+    if (window.geometry() != wanted || !window.testAttribute(Qt::WA_Resized)) {
         window.setGeometry(wanted);
     }
     window.arrange();
@@ -303,12 +322,35 @@ void DesktopWindowSystem::adoptControls() {
     }
 }
 
+// A screen reader asks hundreds of small questions, each when the last one is answered. A form that
+// draws frames would answer one a frame, and the learner waited for seconds.
+void DesktopWindowSystem::answerReader() const {
+    constexpr int kMost = 8;       // ms of a frame's 20, which are slept less
+    constexpr int kNextWithin = 2; // ms
+    constexpr std::chrono::microseconds kPause{200};
+    if (scriptClock_ != nullptr || !QAccessible::isActive()) {
+        return;
+    }
+    QElapsedTimer whole;
+    QElapsedTimer quiet;
+    whole.start();
+    quiet.start();
+    while (!whole.hasExpired(kMost) && !quiet.hasExpired(kNextWithin)) {
+        if (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
+            quiet.restart();
+        } else {
+            std::this_thread::sleep_for(kPause);
+        }
+    }
+}
+
 void DesktopWindowSystem::deliverEvents() {
     adoptControls();
     if (feed_ != nullptr) {
         feed_->deliver();
     }
     QCoreApplication::processEvents();
+    answerReader();
     // Without a loop of Qt's own below, nobody else does it.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     sweep();

@@ -79,6 +79,7 @@ class DesktopWindowSystem final : public WindowSystem, public FormWindowOwner {
     void place(Form& form, FormWindow& window);
     void sweep();
     void adoptControls();
+    void answerReader() const;
 
     using Surfaces = std::vector<std::unique_ptr<PictureSurface>>;
 

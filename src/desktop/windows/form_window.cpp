@@ -263,6 +263,9 @@ void FormWindow::arrange() {
     for (const auto& peer : peers_) {
         peer->refresh();
     }
+    if (const QWidget* focused = focusWidget(); content_->isAncestorOf(focused)) {
+        reveal(*focused); // a larger scale has moved it
+    }
     QToolTip::setFont(look::font(look::kTextSize, scale_));
     // A form that scales itself makes do with whatever there is.
     const Size design = form_->scalesItself() ? Size{} : form_->designSize();

@@ -60,6 +60,7 @@ class FormWindow final : public QWidget, public Spoken {
     QSize sizeAt(double scale) const;
     // A window that can't be as large as its scale asks for scrolls; 0: all that fits.
     void setAskedScale(double scale) { askedScale_ = scale; }
+    void setMostScale(double scale) { mostScale_ = scale; }
     // Fits everything to the present size and tells the form what it has inside.
     void arrange();
     // Makes peers for controls that have come since.

@@ -155,6 +155,11 @@ void drawBox(QPainter& painter, const QRectF& box, double radius, const QColor& 
     painter.drawRoundedRect(box.adjusted(half, half, -half, -half), radius - half, radius - half);
 }
 
+QRectF focusRoom(const QRectF& box, bool strongBorder, double scale) {
+    const double inset = strongBorder ? 3.5 * scale : 0;
+    return box.adjusted(inset, inset, -inset, -inset);
+}
+
 void drawFocus(QPainter& painter, const QRectF& box, double radius, double scale) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);

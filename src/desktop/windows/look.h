@@ -72,5 +72,7 @@ void drawBox(QPainter& painter, const QRectF& box, double radius, const QColor& 
              const QColor& border, double width);
 // The ring around what has the focus.
 void drawFocus(QPainter& painter, const QRectF& box, double radius, double scale);
+// Where that ring stands on a button: over its border, or inside one that is as dark as the ring.
+QRectF focusRoom(const QRectF& box, bool strongBorder, double scale);
 
 } // namespace quendal::look

@@ -89,7 +89,8 @@ void drawButton(QPainter& painter, const QStyleOption* option, const QWidget* wi
     look::drawBox(painter, option->rect, look::kButtonCorner * scale, colours.fill, colours.border,
                   std::max(1.0, (isDefault ? 1.5 : 1.0) * scale));
     if (has(option, QStyle::State_HasFocus)) {
-        look::drawFocus(painter, option->rect, look::kButtonCorner * scale, scale);
+        look::drawFocus(painter, look::focusRoom(option->rect, isDefault, scale),
+                        look::kButtonCorner * scale, scale);
     }
     painter.restore();
 }

@@ -223,6 +223,10 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             painter->save();
             look::drawBox(*painter, option->rect, 3 * look::scaleOf(widget), look::kPanel,
                           look::kBorder, std::max(1.0, look::scaleOf(widget)));
+            if (option->state.testFlag(QStyle::State_HasFocus)) {
+                look::drawFocus(*painter, option->rect, 3 * look::scaleOf(widget),
+                                look::scaleOf(widget));
+            }
             painter->restore();
             break;
         }
