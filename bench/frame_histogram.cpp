@@ -10,6 +10,7 @@
 #include "shell/entry.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <algorithm>
@@ -52,6 +53,9 @@ class FrameTimes {
     void noteOpening() { opening_ = true; }
 
     void print(const std::string& name) {
+        if (times_.empty()) { // nothing was played, and the player has said why
+            return;
+        }
         std::sort(times_.begin(), times_.end());
         std::printf("| %s | %zu | %.2f | %.2f | %.2f | %.0f |\n", name.c_str(), times_.size(),
                     share(0.5), share(0.99), times_.back(), longestOpening_);
@@ -122,13 +126,14 @@ int play(QApplication& application, const ReadyScript& ready, QSize size) {
         player.programWaits();
         frames.start();
     };
-    const std::string name = script.file.substr(script.file.find_last_of('/') + 1);
+    const std::string name =
+        QFileInfo(QString::fromStdString(script.file)).baseName().toStdString();
     host.windows().atEnd([&] { frames.print(name); });
     host.windows().setExitStatus([&] {
         std::fflush(stdout);
         return player.exitStatus();
     });
-    ready.program("quendal");
+    ready.program({});
     host.windows().EndProcess();
 }
 

@@ -128,6 +128,33 @@ TEST_F(SpriteFiles, AScaledSpriteIsCopiedWithoutAnotherCopy) {
     EXPECT_EQ(own.constBits(), cut.constBits()); // the same memory
 }
 
+// Three of them in pixels would be 27 MB.
+TEST_F(SpriteFiles, HugeScaledSpritesTakeRoomWhileTheyAreDrawnAlone) {
+    constexpr QSize kSize(1500, 1500);
+    const PicturePtr sprite = CoreLib().Graphics.LoadPicture(write("g.wmf", richWmf().bytes()));
+    const Rect whole{0, 0, kSize.width() * 1.0, kSize.height() * 1.0};
+    const QImage expected = renderSprite(drawingOf(richWmf()), kSize);
+    CoreLib().Graphics.forgetDetail();
+    std::vector<PicturePtr> scaled;
+    for (int copy = 0; copy < 3; ++copy) {
+        scaled.push_back(CoreLib().Graphics.Scaled(sprite, kSize.width(), kSize.height()));
+    }
+    EXPECT_EQ(DesktopPicture::keptDetails(), 0U);
+    BoxForm form;
+    PictureSurface surface(form.box);
+    for (int round = 0; round < 4; ++round) {
+        const PicturePtr& picture = scaled[static_cast<std::size_t>(round) % scaled.size()];
+        surface.Clear();
+        surface.StretchBlt(whole, picture, whole, RasterOp::SrcCopy);
+        surface.finish();
+        surface.image({200, 100}, 1);
+        EXPECT_LE(DesktopPicture::keptDetails(), 2U);
+        EXPECT_EQ(pixels(picture).detail({0, 0, 1500, 1500}, 1).image, expected) << round;
+    }
+    CoreLib().Graphics.forgetDetail();
+    EXPECT_EQ(DesktopPicture::keptDetails(), 0U);
+}
+
 TEST_F(SpriteFiles, ASpriteOnASurfaceLeavesWhatItsKeyColourUncovers) {
     const PicturePtr sprite = CoreLib().Graphics.LoadPicture(write("e.wmf", richWmf().bytes()));
     BoxForm form;

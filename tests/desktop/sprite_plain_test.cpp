@@ -6,12 +6,17 @@
 
 #include <QPainter>
 
-#include <chrono>
+#include <ctime>
 #include <random>
 
 namespace quendal::test {
 
 namespace {
+
+// Of this program alone, so that others on the machine don't count.
+double processorSeconds() {
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
 
 // The plain form: everything in one large image.
 QImage paintedPlainly(const WmfDrawing& drawing, QSize size) {
@@ -178,10 +183,10 @@ TEST(Sprite, AStarOfManyThousandLinesEndsSoon) {
         star.push_back({342 - x, 51});
     }
     drawing.shapes.push_back({.form = WmfPolygon{.rings = {star}}, .fill = Color{255, 0, 0}});
-    const auto start = std::chrono::steady_clock::now();
+    const double start = processorSeconds();
     renderSprite(drawing, {342, 51});
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    EXPECT_LT(taken.count(), 5);
+    const double taken = processorSeconds() - start;
+    EXPECT_LT(taken, 5);
 }
 
 TEST(Sprite, HostileDrawingsEndSoon) {
@@ -193,10 +198,10 @@ TEST(Sprite, HostileDrawingsEndSoon) {
     for (const Case& row : {Case{0, 1, 65}, Case{1, 0, 1}, Case{0, 32767, 200}, Case{4, 1, 32767},
                             Case{2, 9, 32767}}) {
         const WmfDrawing drawing = hostile(row.style, row.width, row.extent);
-        const auto start = std::chrono::steady_clock::now();
+        const double start = processorSeconds();
         renderSprite(drawing, {1920, 1080});
-        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-        EXPECT_LT(taken.count(), 10) << row.style << ' ' << row.width << ' ' << row.extent;
+        const double taken = processorSeconds() - start;
+        EXPECT_LT(taken, 10) << row.style << ' ' << row.width << ' ' << row.extent;
     }
 }
 

@@ -236,7 +236,10 @@ void CommandPainter::stretch(const DesktopPicture& picture, const StretchBoxes& 
 void CommandPainter::join(const DesktopPicture& picture, const StretchBoxes& boxes,
                           RasterOp operation) {
     if (operation == RasterOp::SrcCopy) {
-        painter_.drawImage(boxes.to.topLeft(), picture.cut(boxes.from, boxes.to.size()));
+        const bool whole = boxes.from == QRectF(QPointF(), QSizeF(boxes.to.size())) &&
+                           boxes.to.size() == QSize(picture.width(), picture.height());
+        painter_.drawImage(boxes.to.topLeft(), whole ? picture.detail(boxes.from, 1).image
+                                                     : picture.cut(boxes.from, boxes.to.size()));
         return;
     }
     const DesktopPicture::Detail best = picture.passingDetail(boxes.from, scaleOf(boxes));

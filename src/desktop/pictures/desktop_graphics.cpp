@@ -63,7 +63,7 @@ PicturePtr DesktopGraphics::Scaled(const PicturePtr& picture, int width, int hei
         logLine("picture too large: " + std::to_string(width) + " x " + std::to_string(height));
         return nullptr;
     }
-    return std::make_shared<DesktopPicture>(known->inSize({width, height}));
+    return DesktopPicture::fromPixels(known->inSize({width, height}));
 }
 
 } // namespace quendal

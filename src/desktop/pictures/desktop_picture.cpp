@@ -20,6 +20,8 @@ constexpr std::size_t kKeptCuts = 4;
 constexpr int kLargestTwin = 4;         // times the file's own size
 constexpr std::size_t kKeptDetails = 2; // 8 MB each; a step between two pictures needs both
 constexpr qsizetype kSmall = 1 << 16;   // bytes of pixels that are kept with their picture
+constexpr qsizetype kHuge = 8 << 20;    // bytes of pixels that are kept packed
+constexpr int kQuickly = 1;             // of 9; what was drawn packs well whatever the effort
 constexpr double kTwinFrom = 1.05;      // below it the file itself has all the detail
 constexpr int kDrawingTwin = 2;         // size of the twin of a drawing
 constexpr double kHalfFrom =
@@ -84,7 +86,7 @@ void DesktopPicture::dropPixels() const {
     if (!twinFile_.isEmpty()) {
         twin_ = QImage();
     }
-    if (!bytes_.empty()) {
+    if (!bytes_.empty() || !packed_.isEmpty()) {
         image_ = QImage();
     }
 }
@@ -97,7 +99,7 @@ void DesktopPicture::keepPixels(double scale) const {
     if (twin_.isNull() || scale <= kTwinFrom) {
         image_ = own();
     }
-    if (twinFile_.isEmpty() && bytes_.empty()) {
+    if (twinFile_.isEmpty() && bytes_.empty() && packed_.isEmpty()) {
         return;
     }
     if (keepers().size() >= kKeptDetails) {
@@ -132,6 +134,16 @@ std::shared_ptr<const DesktopPicture> DesktopPicture::fromFile(std::string bytes
     return picture;
 }
 
+std::shared_ptr<const DesktopPicture> DesktopPicture::fromPixels(const QImage& image) {
+    auto picture = std::make_shared<DesktopPicture>(image);
+    const QImage& own = picture->image_;
+    if (own.sizeInBytes() > kHuge) {
+        picture->packed_ = qCompress(own.constBits(), own.sizeInBytes(), kQuickly);
+        picture->image_ = QImage();
+    }
+    return picture;
+}
+
 std::shared_ptr<const DesktopPicture> DesktopPicture::fromDrawing(WmfDrawing drawing) {
     auto picture = std::make_shared<DesktopPicture>(QImage());
     picture->size_ = QSize(wholePx(drawing.size.width), wholePx(drawing.size.height));
@@ -156,7 +168,18 @@ QImage decodePicture(const std::string& bytes) {
     return isPictureSize(image.width(), image.height()) ? image : QImage();
 }
 
+QImage DesktopPicture::unpacked() const {
+    const auto format = opaque_ ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied;
+    auto bytes = std::make_unique<QByteArray>(qUncompress(packed_));
+    const auto* pixels = reinterpret_cast<const uchar*>(bytes->constData());
+    const auto release = [](void* kept) { delete static_cast<QByteArray*>(kept); };
+    return {pixels, size_.width(), size_.height(), format, release, bytes.release()};
+}
+
 QImage DesktopPicture::own() const {
+    if (image_.isNull() && !packed_.isEmpty()) {
+        return unpacked();
+    }
     if (image_.isNull() && drawing_ != nullptr) {
         image_ = painted(*drawing_, size_);
     }

@@ -5,6 +5,7 @@
 #include "desktop/files/wmf_drawing.h"
 #include "host/picture.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QRectF>
 #include <QString>
@@ -32,6 +33,10 @@ class DesktopPicture final : public Picture {
     // A picture file that is decoded again where its pixels are needed; null for bytes that
     // decodePicture refuses. `twin` as above.
     static std::shared_ptr<const DesktopPicture> fromFile(std::string bytes, QString twin);
+
+    // Pixels that nobody can make again. A huge picture is kept packed and takes its room only
+    // while it is drawn: a lesson has several of them as large as the screen, and shows one.
+    static std::shared_ptr<const DesktopPicture> fromPixels(const QImage& image);
 
     // A picture in the natural size of the drawing, rounded to whole px.
     static std::shared_ptr<const DesktopPicture> fromDrawing(WmfDrawing drawing);
@@ -77,6 +82,7 @@ class DesktopPicture final : public Picture {
     };
     // The picture in its own size; a drawing isn't painted before somebody asks.
     QImage own() const;
+    QImage unpacked() const;
     QImage loadTwin() const;
     // The pixels for `scale` at hand, and those of pictures that nobody has asked for lately gone:
     // a few of them would be all the memory that the program may take.
@@ -89,6 +95,7 @@ class DesktopPicture final : public Picture {
     QSize size_;
     std::shared_ptr<const WmfDrawing> drawing_; // null for a picture of pixels
     std::string bytes_;                         // of the file, where image_ isn't kept
+    QByteArray packed_;                         // in its place, where neither is kept
     bool opaque_ = false;
     mutable QImage image_;
     mutable QString twinFile_; // emptied when the file turns out to be broken
