@@ -16,7 +16,7 @@ inline constexpr SeriesLook kChlorideLook{"Cl-", palette(2), Marker::Square};
 inline constexpr SeriesLook kAcetateLook{"Ac-", palette(5), Marker::Square};
 inline constexpr SeriesLook kSodiumLook{"Na+", palette(9), Marker::Diamond};
 inline constexpr SeriesLook kHydroxideLook{"OH-", palette(1), Marker::Triangle};
-inline constexpr SeriesLook kNitrateLook{"NO3-", palette(6), Marker::Diamond};
+inline constexpr SeriesLook kNitrateLook{"NO3-", palette(6), Marker::TriangleDown};
 inline constexpr SeriesLook kSilverLook{"Ag+", palette(8), Marker::Triangle};
 
 inline constexpr std::string_view kDilutedSampleAfter =

@@ -2,6 +2,7 @@
 
 #include "animations/frm_AppIntro.h"
 #include "particles/frm_AppMagnify.h"
+#include "shell/forms/frm_AppSplash.h"
 
 #include <algorithm>
 #include <charconv>
@@ -34,6 +35,7 @@ std::unique_ptr<Form> make() {
 constexpr SingleForm kForms[] = {
     {"frm_AppMagnify", make<Lens>, kLensFields},
     {"frm_AppIntro", make<frm_AppIntro>, kStageFields},
+    {"frm_AppSplash", make<frm_AppSplash>, {}},
 };
 
 template <class T>

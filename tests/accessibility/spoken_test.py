@@ -14,6 +14,7 @@ surroundings = reader.Surroundings()
 import pyatspi  # noqa: E402  (pyatspi wants the screen and the bus of the test)
 from gi.repository import GLib  # noqa: E402
 
+import learner  # noqa: E402
 import tree  # noqa: E402
 
 NAMED = "object:property-change:accessible-name"
@@ -46,62 +47,11 @@ class Ear:
         assert any(what in text for text in self.said), "the name did not change: %r" % what
 
 
-def answer(pid, button="OK"):
-    """Presses a button of the box that is in front and gives the texts that it reads out."""
-    box = reader.wait_for(lambda: dialog(pid))
-    assert box is not None, "no box on the screen; there is\n" + tree.picture(pid)
-    texts = [node.name for node in box.walk() if node.role == "label" and node.showing]
-    tree.press(next(node for node in box.walk()
-                    if node.role == "push button" and node.name == button))
-    def gone():
-        now = dialog(pid)
-        return now is None or now.name != box.name
-    assert reader.wait_for(gone), "the box stays: %s" % box
-    return box.name, texts
-
-
-def dialog(pid):
-    tree.spin()
-    window = tree.active_window(pid)
-    return window if window is not None and window.role == "dialog" and any(
-        node.role == "push button" and node.name == "OK" or node.name == "Ja"
-        for node in window.walk()) else None
-
-
-def write(node, text):
-    assert node.accessible.queryEditableText().setTextContents(text), "nothing to write on"
-
-
-def focused(pid, role):
-    found = reader.wait_for(lambda: (tree.spin(), [
-        node for window in tree.windows(pid) for node in window.walk()
-        if node.role == role and "focused" in node.states])[1])
-    assert found, "no %s has the focus" % role
-    return found[0]
-
-
-def give_name(pid):
-    entry = focused(pid, "text")
-    assert entry.name, "nobody says what is asked for"
-    write(entry, "Mia")
-    answer(pid)
-
-
-def choose_task(pid):
-    tree.press(tree.wait_for(pid, "page tab", "Selbst rechnen"))
-    compulsory = tree.wait_for(pid, "check box", "Sollstellen müssen gerechnet werden")
-    assert "checked" in compulsory.states
-    tree.press(compulsory)
-    tree.spin(0.2)
-    assert "checked" not in tree.find(pid, "check box", compulsory.name).states
-    tree.press(tree.wait_for(pid, "push button", "pH: Starke Säure mit starker Base"))
-
-
 def by_reader_alone(program):
     """The box for the name and the start dialog, worked by what the tree offers."""
     with reader.Program([program]) as running:
-        give_name(running.pid)
-        choose_task(running.pid)
+        learner.give_name(running.pid)
+        learner.choose_task(running.pid)
         assert running.running(), "the program has ended"
 
 

@@ -13,7 +13,9 @@ import reader
 
 surroundings = reader.Surroundings()
 
-import contrast  # noqa: E402  (pyatspi wants the screen and the bus of the test)
+from PIL import Image  # noqa: E402  (pyatspi wants the screen and the bus of the test)
+
+import contrast  # noqa: E402
 import stages  # noqa: E402
 import tree  # noqa: E402
 
@@ -150,7 +152,7 @@ def play(player, folder, name):
         window = reader.wait_for(lambda: tree.active_window(program.pid))
         if window is None:
             return ["no window for a screen reader"], ""
-        pale, read = contrast.faults(window, picture)
+        pale, read = contrast.faults(window, Image.open(picture))
         faults = [*faults_of_names(window), *faults_of_states(window, controls),
                   *faults_of_mnemonics(window), *pale]
         shown = sum(node.showing for node in window.walk())

@@ -3,6 +3,7 @@
 
 #include "desktop/desktop_host.h"
 #include "desktop/script/desktop_script_actor.h"
+#include "desktop/script/play_on_desktop.h"
 #include "host/virtual_clock.h"
 #include "script/keyboard_actor.h"
 #include "script/script.h"
@@ -97,6 +98,13 @@ void applySettings(DesktopHost& host, const ScriptSettings& settings) {
 
 int runDesktopScript(int argc, char** argv, const ScriptOptions& options,
                      const ProgramChooser& choose) {
+    return playOnDesktop(argc, argv, options, choose, [](DesktopWindowSystem& windows) {
+        return std::make_unique<DesktopScriptActor>(windows);
+    });
+}
+
+int playOnDesktop(int argc, char** argv, const ScriptOptions& options, const ProgramChooser& choose,
+                  const HandsMaker& makeHands) {
     const auto ready = readyScript(options.files.front(), choose, std::cerr);
     if (!ready) {
         return static_cast<int>(ScriptStatus::Malformed);
@@ -115,9 +123,9 @@ int runDesktopScript(int argc, char** argv, const ScriptOptions& options,
         application, parseCommandLine(line),
         {.clock = options.scriptClock ? &clock : nullptr, .systemInfo = &user, .random = &random});
     applySettings(host, script.settings);
-    DesktopScriptActor actor(host.windows());
-    KeyboardActor keyboard(actor);
-    ScriptActor& hands = options.byKeys ? static_cast<ScriptActor&>(keyboard) : actor;
+    const std::unique_ptr<ScriptActor> actor = makeHands(host.windows());
+    KeyboardActor keyboard(*actor);
+    ScriptActor& hands = options.byKeys ? keyboard : *actor;
     ScriptPlayer player(script, hands,
                         {.keepGoing = options.keepGoing, .realClock = !options.scriptClock},
                         std::cout, std::cerr);

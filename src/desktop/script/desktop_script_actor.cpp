@@ -215,7 +215,8 @@ bool DesktopScriptActor::screenshot(Form& form, const std::string& file) {
     if (window == nullptr) {
         return false;
     }
-    const bool written = window->grab().save(QString::fromStdString(file), "PNG");
+    const char* format = file.ends_with(".ppm") ? "PPM" : "PNG";
+    const bool written = window->grab().save(QString::fromStdString(file), format);
     if (!written) {
         logLine("screenshot not written: " + file);
     }

@@ -13,7 +13,7 @@ namespace quendal {
 
 class DesktopWindowSystem;
 
-class DesktopScriptActor final : public ScriptActor {
+class DesktopScriptActor : public ScriptActor {
   public:
     explicit DesktopScriptActor(DesktopWindowSystem& windows) : windows_(windows) {}
 
