@@ -85,46 +85,67 @@ int markOfScore(int score) {
 
 } // namespace
 
-void ReportWatch::report(std::string words, const std::string& fault) {
+namespace {
+
+std::string progressWords(int points, int wrong) {
+    return "progress " + std::to_string(points) + " " + std::to_string(wrong);
+}
+
+std::string resultWords(int score, double mark, const std::string& markText) {
+    return "result " + std::to_string(score) + " " + numberText(mark) + " " + scriptWord(markText);
+}
+
+} // namespace
+
+void ReportWatch::report(std::string words, const std::string& fault,
+                         const std::vector<std::string>& due) {
+    if (!fault.empty() && !finding_) {
+        finding_ = Finding{"report \"" + words + "\": " + fault, {}};
+        reports_.insert(reports_.end(), due.begin(), due.end());
+        for (const std::string& one : reports_) {
+            finding_->expects.push_back("expect report " + one);
+        }
+        if (due.empty()) {
+            finding_->expects.emplace_back("expect noreport");
+        }
+    }
     reports_.push_back(std::move(words));
-    if (fault.empty() || finding_) {
-        return;
-    }
-    finding_ = Finding{"report \"" + reports_.back() + "\": " + fault, {}};
-    for (const std::string& one : reports_) {
-        finding_->expects.push_back("expect report " + one);
-    }
-    // The last of them has come and shouldn't have.
-    finding_->expects.back() = "expect noreport";
 }
 
 void ReportWatch::progress(const Workbench* bench, int points, int wrong) {
     std::string fault;
+    std::vector<std::string> due;
     if (bench == nullptr) {
         fault = "there is no task";
     } else if (points != bench->vPoints || wrong != bench->vWrong) {
         fault = "the form has other numbers";
+        due = {progressWords(bench->vPoints, bench->vWrong)};
     } else if (points < points_ || wrong < wrong_) {
         fault = "a number has fallen";
     }
     points_ = points;
     wrong_ = wrong;
-    report("progress " + std::to_string(points) + " " + std::to_string(wrong), fault);
+    report(progressWords(points, wrong), fault, due);
 }
 
 void ReportWatch::result(const Workbench* bench, int score, double mark,
                          const std::string& markText) {
     const int place = markOfScore(score);
+    const std::string right = resultWords(score, place, kMarkTexts[place - 1]);
     std::string fault;
+    std::vector<std::string> due;
     if (bench == nullptr || bench->vDemo) {
         fault = "there is no task that has a result";
-    } else if (bench->vPoints == 0 || bench->vPoints != points_) {
+    } else if (bench->vPoints == 0) {
+        fault = "no point has been calculated";
+    } else if (bench->vPoints != points_) {
         fault = "the last point hasn't been reported";
+        due = {progressWords(bench->vPoints, bench->vWrong), right};
     } else if (mark != place || markText != kMarkTexts[place - 1]) {
         fault = "the score is worth another mark";
+        due = {right};
     }
-    report("result " + std::to_string(score) + " " + numberText(mark) + " " + scriptWord(markText),
-           fault);
+    report(resultWords(score, mark, markText), fault, due);
 }
 
 void ReportWatch::benchClosed() {

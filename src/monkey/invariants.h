@@ -39,14 +39,14 @@ class LookWatch {
     void remember();
     std::optional<Finding> checkControl(const Control& control) const;
     std::optional<Finding> checkText(const Control& control) const;
-    bool repeatsInput(const std::string& text) const;
+    bool repeatsInput(const Control& control) const;
 
     const Form* form_ = nullptr;  // the last one
     std::size_t look_ = 0;        // and what it looked like
     std::set<std::string> typed_; // into inputs so far, but for short numbers
 };
 
-// What is in the beaker by what has been poured in, once nothing falls or reacts any more.
+// What is in the beaker by what has been poured in and what has reacted since, while nothing falls.
 std::optional<Finding> checkBalance(const Workbench& bench);
 
 // Counters of a task, which only rise.
@@ -71,7 +71,9 @@ class ReportWatch {
     const std::optional<Finding>& finding() const { return finding_; }
 
   private:
-    void report(std::string words, const std::string& fault);
+    // A report that has come: what is wrong with it, and what should have come in its place.
+    void report(std::string words, const std::string& fault,
+                const std::vector<std::string>& due = {});
 
     std::vector<std::string> reports_; // as "expect report" names them
     std::optional<Finding> finding_;

@@ -178,22 +178,40 @@ bool fits(const Control& control) {
     return heightOf(control.text(), place.width + kSlack, letters) <= place.height + 4 * kSlack;
 }
 
+std::size_t number(Color color) {
+    return color.r + 256U * color.g + 65536U * color.b;
+}
+
+// The ground that the control gives to what stands on it.
+std::size_t groundNumber(const Control& control) {
+    switch (control.kind()) {
+    case ControlKind::Panel:
+        return number(static_cast<const ctl_Pannel&>(control).backcolor());
+    case ControlKind::PictureBox:
+        return number(static_cast<const PictureBox&>(control).backcolor());
+    default:
+        return 0;
+    }
+}
+
 // What the form looks like, in one number. Pictures move all the time and are left out.
 std::size_t lookOf(const Form& form) {
     std::size_t look = std::hash<const void*>{}(&form);
     const auto mix = [&look](std::size_t part) { look = look * 1099511628211U ^ part; };
-    const std::hash<double> number;
+    const std::hash<double> length;
     for (const Control* control : form.controls()) {
         mix(control->visible() ? 2 : 1);
         mix(control->enabled() ? 2 : 1);
         mix(std::hash<std::string>{}(control->text()));
-        mix(control->textColor().r + 256U * control->textColor().g);
+        mix(number(control->textColor()));
+        mix(groundNumber(*control));
+        mix(length(control->font().size));
         if (control->kind() != ControlKind::PictureBox) {
             const Rect& place = control->place();
-            mix(number(place.left));
-            mix(number(place.top));
-            mix(number(place.width));
-            mix(number(place.height));
+            mix(length(place.left));
+            mix(length(place.top));
+            mix(length(place.width));
+            mix(length(place.height));
         }
     }
     return look;
@@ -201,16 +219,21 @@ std::size_t lookOf(const Form& form) {
 
 } // namespace
 
-// What the learner has typed stands in some labels of the tutor too, be it what it may; and so does
-// what came out of the calculator, however large the number is.
-bool LookWatch::repeatsInput(const std::string& text) const {
-    constexpr std::size_t kHuge = 9; // characters; those of the program are shorter
-    if (text.size() > kHuge && NumberService().ParseVariant(text)) {
-        return true;
+// Some labels of the tutor repeat what the learner has typed, be it what it may; and one row of
+// them shows what came out of the calculator, however large the number is.
+bool LookWatch::repeatsInput(const Control& control) const {
+    constexpr const char* kRepeating[] = {"lab_Calc(5)",  "lab_Calc(10)", "lab_LFVol(2)",
+                                          "lab_LFVol(3)", "lab_LFVol(4)", "lab_LFVol(5)"};
+    const std::string& text = control.text();
+    if (control.name() == "lab_LFErg") {
+        return NumberService().ParseVariant(text).has_value();
     }
-    return std::any_of(typed_.begin(), typed_.end(), [&](const std::string& typed) {
-        return text.find(typed) != std::string::npos;
-    });
+    const bool may = control.name().starts_with("lab_") &&
+                     std::find(std::begin(kRepeating), std::end(kRepeating), control.fullName()) !=
+                         std::end(kRepeating);
+    return may && std::any_of(typed_.begin(), typed_.end(), [&](const std::string& typed) {
+               return text.find(typed) != std::string::npos;
+           });
 }
 
 void LookWatch::remember() {
@@ -231,7 +254,7 @@ std::optional<Finding> LookWatch::checkText(const Control& control) const {
     if (!showsText(control)) {
         return std::nullopt;
     }
-    const bool own = repeatsInput(control.text());
+    const bool own = repeatsInput(control);
     if (!own && showsNoNumber(control.text())) {
         return textFinding(control, "is no number");
     }

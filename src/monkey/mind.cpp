@@ -84,6 +84,15 @@ bool isOn(const Form& form, const Control* control) {
 
 } // namespace
 
+Mind::Mind(Chance& chance, Mood mood, std::string target)
+    : chance_(chance), mood_(mood), target_(std::move(target)) {
+    // All the marks are to come up.
+    constexpr double kZeals[] = {0.03, 0.08, 0.12, 0.15, 0.3};
+    constexpr double kSkills[] = {0, 0, 0.5, 0.95};
+    zeal_ = chance_.pick(kZeals);
+    skill_ = chance_.pick(kSkills);
+}
+
 std::string Mind::nextEvent(const Form& top) {
     constexpr double kTwice = 0.06; // a double click, or more
     if (last_ != nullptr && chance_.hit(kTwice) && isOn(top, last_) && canUse(*last_)) {

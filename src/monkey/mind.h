@@ -17,8 +17,7 @@ class Workbench;
 class Mind {
   public:
     // `target` is the form to stay on or to come back to; empty for the whole program.
-    Mind(Chance& chance, Mood mood, std::string target)
-        : chance_(chance), mood_(mood), target_(std::move(target)) {}
+    Mind(Chance& chance, Mood mood, std::string target);
 
     // The line of a script for the next event; the topmost form is `top`.
     std::string nextEvent(const Form& top);
@@ -43,6 +42,7 @@ class Mind {
     std::string work(const Workbench& bench);
     std::string dose(const Workbench& bench);
     std::string answerDirectly(const Workbench& bench);
+    std::string answerRightly(const Workbench& bench);
     std::string followTutor(const Workbench& bench);
     std::string lookAround(const Workbench& bench);
     std::string finishTask(const Workbench& bench);
@@ -56,6 +56,8 @@ class Mind {
 
     Chance& chance_;
     Mood mood_;
+    double zeal_ = 0;  // share of the points that it calculates without being asked to
+    double skill_ = 0; // share of its events that answer a point at once and rightly
     std::string target_;
     const Control* last_ = nullptr; // that was clicked
 };

@@ -173,8 +173,9 @@ std::string Mind::dose(const Workbench& bench) {
     if (last && !open) {
         return finishTask(bench);
     }
-    // A demo goes on when it has shown its point; a task wants some of them.
-    if (open && (last || chance_.hit(bench.vDemo ? 0.15 : 0.3))) {
+    // A demo goes on when it has shown its point; a task may want some of them.
+    const bool asked = session().SessionNeedCalc;
+    if (open && (last || chance_.hit(bench.vDemo ? 0.15 : asked ? 0.3 : zeal_))) {
         return clickOneOf(bench, {"but_Calc", "ctl_Button2"});
     }
     return last ? std::string() : clickOneOf(bench, {"ctl_Button3", "ctl_Button3", "pic_Above"});
@@ -209,7 +210,17 @@ std::string Mind::seekTarget(const Workbench& bench) {
     return target_ == "frm_AppMagnify" ? clickOneOf(bench, {"but_ShowMag"}) : std::string();
 }
 
+std::string Mind::answerRightly(const Workbench& bench) {
+    constexpr int kPlaces = 4; // more than are asked for
+    const std::string answer = CoreLib().NumberService.Format(rightAnswer(bench), kPlaces);
+    return bench.txt_Ph.text() == answer ? clickOneOf(bench, {"but_CalcDone"})
+                                         : "type txt_Ph " + scriptWord(answer);
+}
+
 std::string Mind::answerDirectly(const Workbench& bench) {
+    if (chance_.hit(skill_)) {
+        return answerRightly(bench);
+    }
     const double share = chance_.unit();
     if (share < 0.08) {
         return clickOneOf(bench, {"but_HelpCalc"});

@@ -14,7 +14,6 @@ constexpr const char* kNonsense[] = {
     " ",
     "abc",
     "äöüßÄÖÜ",
-    "pH",
     "1,2,3",
     "1.2.3",
     "--5",

@@ -11,6 +11,7 @@
 #include "shell/session/session.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -86,6 +87,9 @@ int playSession(SessionPlan plan, const ProgramChooser& choose, EventLog& log) {
         log.add(EntryKind::Finding, "no program: " + fault);
         return kFaultStatus;
     }
+    for (const auto& [key, value] : script->settings.control) {
+        log.add(EntryKind::Seen, "1 teacher's key " + key);
+    }
     resetSession();
     HeadlessHost host(script->settings, chooseDataFolder(script->settings.data));
     HeadlessActor actor;
@@ -105,10 +109,23 @@ int playSession(SessionPlan plan, const ProgramChooser& choose, EventLog& log) {
 }
 
 // A session that doesn't come back is ended by the system when its time is used up.
-void limitTime(long seconds) {
-    const auto most = static_cast<rlim_t>(seconds);
+void limitTime(const MonkeyOptions& options) {
+    const auto most = static_cast<rlim_t>(options.cpuSeconds);
     const rlimit limit{most, most + 5};
     setrlimit(RLIMIT_CPU, &limit);
+    alarm(options.wallSeconds);
+}
+
+std::string whatEnded(int signal) {
+    switch (signal) {
+    case SIGXCPU:
+    case SIGKILL:
+        return "the program hangs";
+    case SIGALRM:
+        return "the program waits for what doesn't come";
+    default:
+        return "the program crashed with signal " + std::to_string(signal);
+    }
 }
 
 // Teacher's keys make the program write to the teacher; here nobody reads that.
@@ -116,7 +133,7 @@ int playApart(const SessionPlan& plan, const MonkeyOptions& options, const Progr
               EventLog& log) {
     const pid_t child = fork();
     if (child == 0) {
-        limitTime(options.cpuSeconds);
+        limitTime(options);
         exchangeLogSink([](std::string_view) {});
         _exit(playSession(plan, choose, log));
     }
@@ -126,10 +143,7 @@ int playApart(const SessionPlan& plan, const MonkeyOptions& options, const Progr
         return kFaultStatus;
     }
     if (WIFSIGNALED(state)) {
-        const bool hangs = WTERMSIG(state) == SIGXCPU || WTERMSIG(state) == SIGKILL;
-        log.add(EntryKind::Finding,
-                hangs ? "the program hangs"
-                      : "the program crashed with signal " + std::to_string(WTERMSIG(state)));
+        log.add(EntryKind::Finding, whatEnded(WTERMSIG(state)));
         return kFaultStatus;
     }
     return WEXITSTATUS(state);

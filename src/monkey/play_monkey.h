@@ -15,7 +15,10 @@ struct MonkeyOptions {
     std::string form;         // to stay on, empty for the whole program
     std::string folder;       // where scripts go; empty: the working folder
     bool keepScripts = false; // also of sessions in which all was well
-    long cpuSeconds = 300;    // after which a session counts as hanging
+    // After so much time of the processor, or of the day, a session counts as hanging. One takes a
+    // second, and many times that on a busy machine or with a checked build.
+    long cpuSeconds = 120;
+    unsigned wallSeconds = 240;
 };
 
 // Whether the monkey knows a way to the form.

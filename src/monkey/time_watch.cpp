@@ -4,6 +4,8 @@
 #include "host/form.h"
 #include "workbench/workbench.h"
 
+#include <utility>
+
 namespace quendal {
 
 namespace {
@@ -28,6 +30,7 @@ void TimeWatch::toldToClose(const Form& form, double now) {
 
 void TimeWatch::forget(const Form& form) {
     closed_ = closed_ == &form ? nullptr : closed_;
+    reactsOn_ = reactsOn_ == &form ? nullptr : reactsOn_;
 }
 
 std::optional<Finding> TimeWatch::check(const Form* top, EventWaits event, double now) {
@@ -43,8 +46,25 @@ std::optional<Finding> TimeWatch::check(const Form* top, EventWaits event, doubl
     if (top == nullptr) {
         return late ? std::optional(Finding{"there has been no form for 60 s", {}}) : std::nullopt;
     }
+    const auto reactions = checkReactions(*top, now);
     const auto dosing = checkDosing(*top, now);
-    return dosing ? dosing : checkClosing(*top, now);
+    const auto closing = checkClosing(*top, now);
+    return reactions ? reactions : dosing ? dosing : closing;
+}
+
+// Particles meet only while the bench is in front and no dosing runs. Dosing doesn't begin the
+// count anew: it brings new pairs but doesn't part those that are there.
+std::optional<Finding> TimeWatch::checkReactions(const Form& top, double now) {
+    const double passed = now - std::exchange(lastLook_, now);
+    const auto* bench = dynamic_cast<const Workbench*>(&top);
+    if (bench == nullptr || !bench->vCalm) {
+        return std::nullopt;
+    }
+    const bool same = std::exchange(reactsOn_, &top) == &top;
+    calm_ = same && bench->vMolecules.hasPairThatCanReact() ? calm_ + passed : 0;
+    return calm_ > kMostCalm
+               ? std::optional(Finding{"a pair in the beaker doesn't react", {"settle"}})
+               : std::nullopt;
 }
 
 std::optional<Finding> TimeWatch::checkDosing(const Form& top, double now) {

@@ -72,10 +72,48 @@ TEST_F(LookTest, ALearnersOwnTextMayBeTooLong) {
     form_.txt_Any.setText(std::string(100, 'x'));
     LookWatch watch;
     EXPECT_FALSE(watch.check(form_));
-    form_.lab_Text.setText(form_.txt_Any.text() + " * 0.01");
+    form_.lab_Volume.setText(form_.txt_Any.text() + " * 0.01");
     form_.txt_Any.setText("");
     EXPECT_FALSE(watch.check(form_));
     EXPECT_TRUE(LookWatch().check(form_)) << "who didn't see it typed takes it for a fault";
+}
+
+TEST_F(LookTest, OnlyTheTutorRepeatsWhatWasTyped) {
+    form_.txt_Any.setText("nan");
+    LookWatch watch;
+    EXPECT_FALSE(watch.check(form_));
+    form_.lab_Volume.setText("nan");
+    EXPECT_FALSE(watch.check(form_));
+    form_.lab_Text.setText("nan mL");
+    EXPECT_TRUE(watch.check(form_));
+}
+
+TEST_F(LookTest, WhatTheCalculatorGaveMayBeLarge) {
+    form_.lab_Result.setText("99999999999999999999999999,000");
+    EXPECT_EQ(found(), "");
+    form_.lab_Result.setText("nan");
+    EXPECT_NE(found().find("no number"), std::string::npos);
+}
+
+// How each change looks to a watch that has seen the form before.
+TEST_F(LookTest, AChangeOfLettersAndColoursIsSeen) {
+    LookWatch watch;
+    const auto seen = [&] { return watch.check(form_).has_value(); };
+    EXPECT_FALSE(seen());
+    form_.lab_Text.setFont({.size = 9});
+    EXPECT_TRUE(seen());
+    form_.lab_Text.setFont({});
+    EXPECT_FALSE(seen());
+    form_.lab_OnGround.setTextColor({0, 0, 140});
+    EXPECT_FALSE(seen());
+    form_.pan_Ground.setBackColor({0, 0, 130});
+    EXPECT_TRUE(seen());
+    form_.lab_OnGround.setTextColor({0, 0, 0});
+    EXPECT_TRUE(seen()) << "black on dark blue";
+    form_.lab_OnGround.setTextColor({255, 255, 255});
+    EXPECT_FALSE(seen());
+    form_.pic_Ground.setBackColor({0, 0, 0});
+    EXPECT_TRUE(seen());
 }
 
 TEST_F(LookTest, LettersAndColours) {

@@ -1,20 +1,15 @@
-#include "headless/play.h"
 #include "host/clock.h"
 #include "host/roots.h"
 #include "host/window_system.h"
+#include "monkey/hunt.h"
 #include "monkey/planted_form.h"
-#include "monkey/play_monkey.h"
-#include "support/temporary_name.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace quendal::test {
@@ -23,8 +18,8 @@ namespace {
 using Fault = std::function<void(PlantedForm&)>;
 
 // The form again and again, as the program shows its start dialog.
-ScriptProgram programWith(const Fault& fault) {
-    return [fault](const std::string&) {
+Program programWith(const Fault& fault) {
+    return [fault] {
         for (;;) {
             PlantedForm form(fault);
             CoreLib().Windows.ShowModal(form);
@@ -32,65 +27,28 @@ ScriptProgram programWith(const Fault& fault) {
     };
 }
 
-struct Hunt {
-    int status = -1;
-    std::string errors;
-    std::string script; // that was written
-};
-
-std::string contentOf(const std::string& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
+Hunt hunt(const Fault& fault, unsigned wallSeconds = 60) {
+    return test::hunt(programWith(fault),
+                      {.seed = 1, .events = 2000, .cpuSeconds = 1, .wallSeconds = wallSeconds});
 }
 
-Hunt hunt(const Fault& fault) {
-    const auto folder = temporaryName("quendal-monkey");
-    std::filesystem::create_directory(folder);
-    const ProgramChooser choose = [&](const ScriptSettings&, std::string&) {
-        return programWith(fault);
-    };
-    std::ostringstream out;
-    std::ostringstream errors;
-    Hunt result;
-    result.status =
-        playMonkey({.seed = 1, .events = 2000, .folder = folder.string(), .cpuSeconds = 1}, choose,
-                   out, errors);
-    result.errors = errors.str();
-    result.script = contentOf(result.errors.substr(0, result.errors.find(".qs: ") + 3));
-    std::filesystem::remove_all(folder);
-    return result;
-}
-
-// What becomes of a process that plays the script: its status, or 128 and the signal's number.
 int replay(const std::string& script, const Fault& fault) {
-    const pid_t child = fork();
-    if (child == 0) {
-        alarm(2); // for a fault that hangs
-        try {
-            _exit(play(script, [&] { programWith(fault)(""); }).status);
-        } catch (const std::exception&) {
-            raise(SIGABRT); // as a program that nobody catches it for
-        }
-    }
-    int state = 0;
-    EXPECT_EQ(waitpid(child, &state, 0), child);
-    return WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
+    return test::replay(script, programWith(fault), 2);
 }
 
-void expectFound(const Fault& fault, const std::string& what, int status) {
+Hunt expectFound(const Fault& fault, const std::string& what, int status) {
     const Hunt found = hunt(fault);
     EXPECT_EQ(found.status, 1);
     EXPECT_NE(found.errors.find(what), std::string::npos) << found.errors;
     EXPECT_NE(found.script.find("\nstart\n"), std::string::npos) << found.script;
     EXPECT_EQ(replay(found.script, fault), status) << found.script;
+    return found;
 }
 
 // Where the script names the fault itself, it holds as soon as the fault is gone.
 void expectFoundAndGone(const Fault& fault, const std::string& what, int status) {
-    expectFound(fault, what, status);
-    EXPECT_EQ(replay(hunt(fault).script, [](PlantedForm&) {}), 0);
+    const Hunt found = expectFound(fault, what, status);
+    EXPECT_EQ(replay(found.script, [](PlantedForm&) {}), 0);
 }
 
 TEST(PlantedFaults, NoneIsFoundWhereNoneIs) {
@@ -110,6 +68,13 @@ TEST(PlantedFaults, ALoopThatNeverEnds) {
         }
     };
     expectFoundAndGone(spin, "the program hangs", 128 + SIGALRM);
+}
+
+TEST(PlantedFaults, AWaitWithoutEnd) {
+    const auto wait = [](PlantedForm&) { pause(); };
+    const Hunt found = hunt(wait, 3);
+    EXPECT_NE(found.errors.find("waits for what doesn't come"), std::string::npos) << found.errors;
+    EXPECT_EQ(replay(found.script, wait), 128 + SIGALRM);
 }
 
 TEST(PlantedFaults, ALoopThatLetsNoEventsIn) {

@@ -5,6 +5,7 @@
 #include "host/form.h"
 #include "host/labels.h"
 #include "host/panels.h"
+#include "host/pictures.h"
 
 #include <functional>
 #include <string>
@@ -22,6 +23,16 @@ class PlantedForm final : public Form {
         but_Press.setText("Drück mich");
         txt_Any.setPlace(10, 100, 100, 30);
         frm_Lid.setPlace(200, 200, 100, 90);
+        lab_Volume.setPlace(230, 10, 50, 20);
+        lab_Result.setPlace(300, 10, 50, 20);
+        pan_Ground.setPlace(230, 50, 150, 30);
+        lab_OnGround.setContainer(pan_Ground);
+        lab_OnGround.setPlace(5, 5, 100, 20);
+        lab_OnGround.setText("Grund");
+        pic_Ground.setPlace(230, 100, 150, 30);
+        lab_InPicture.setContainer(pic_Ground);
+        lab_InPicture.setPlace(5, 5, 100, 20);
+        lab_InPicture.setText("Bild");
         but_Press.onClick = [this] {
             if (++presses == 3) {
                 fault_(*this);
@@ -34,6 +45,12 @@ class PlantedForm final : public Form {
     ctl_Button but_Press{*this, "but_Press"};
     clt_TermInput txt_Any{*this, "txt_Any"};
     ctl_Frame frm_Lid{*this, "frm_Lid"};
+    ctl_Label lab_Volume{*this, "lab_LFVol", 2}; // repeats, on the workbenches, what was typed
+    ctl_Label lab_Result{*this, "lab_LFErg", 2}; // and this one what the calculator gave
+    ctl_Pannel pan_Ground{*this, "pan_Ground"};
+    ctl_Label lab_OnGround{*this, "lab_OnGround"};
+    PictureBox pic_Ground{*this, "pic_Ground"};
+    ctl_Label lab_InPicture{*this, "lab_InPicture"};
 
   private:
     std::function<void(PlantedForm&)> fault_;

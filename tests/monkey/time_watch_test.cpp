@@ -2,6 +2,7 @@
 
 #include "headless/headless_host.h"
 #include "monkey/planted_form.h"
+#include "particles/species.h"
 #include "script/script.h"
 #include "shell/session/session.h"
 #include "workbench/frm_AppMainStrong.h"
@@ -50,6 +51,29 @@ TEST_F(TimeWatchTest, ADosingEnds) {
     EXPECT_EQ(foundAt(&bench, 68), "");
     session().SessionBusy = false;
     EXPECT_EQ(foundAt(&bench, 200), "");
+}
+
+TEST_F(TimeWatchTest, APairReactsInTheTimeOfCalm) {
+    const double most = TimeWatch::kMostCalm;
+    frm_AppMainStrong bench;
+    const auto pairIn = [](Workbench& beaker) {
+        beaker.vMolecules.CREATE(kHydronium, 10, 10);
+        beaker.vMolecules.CREATE(kHydroxide, 90, 90);
+    };
+    pairIn(bench);
+    EXPECT_EQ(foundAt(&bench, 5), "");
+    EXPECT_EQ(foundAt(&bench, 5 + most), "");
+    bench.vCalm = false; // a dosing
+    EXPECT_EQ(foundAt(&bench, 10 + most), "");
+    bench.vCalm = true;
+    EXPECT_EQ(foundAt(&form_, 15 + most), "") << "something stands in front of it";
+    EXPECT_NE(foundAt(&bench, 16 + most), "");
+    bench.vMolecules.REMOVE(2);
+    EXPECT_EQ(foundAt(&bench, 17 + most), "");
+    pairIn(bench);
+    EXPECT_EQ(foundAt(&bench, 18 + most), "") << "another pair has time of its own";
+    watch_.forget(bench);
+    EXPECT_EQ(foundAt(&bench, 18 + 3 * most), "") << "and so has another bench";
 }
 
 TEST_F(TimeWatchTest, WhatIsClosedGoes) {
