@@ -29,9 +29,9 @@ class DataCopy:
         self.names = sorted(str(path.relative_to(self.data))
                             for path in self.data.rglob("*") if path.is_file())
         for name in self.names:
-            self._link(name)
+            self.link(name)
 
-    def _link(self, name):
+    def link(self, name):
         place = self.folder / name
         place.parent.mkdir(parents=True, exist_ok=True)
         place.symlink_to(self.data / name)
@@ -48,7 +48,7 @@ class DataCopy:
             yield
         finally:
             place.unlink(missing_ok=True)
-            self._link(name)
+            self.link(name)
 
     @contextmanager
     def faults(self, names, fault):

@@ -3,12 +3,15 @@
 import re
 from pathlib import Path
 
+import looks
 from data_copy import FAULTS, DataCopy, spoiled
 from program import Player
 from table import section, table
 from tasks import on_data, task_for
 
 LARGE_SCREEN = "size 1920x1080"  # where a twin is looked for
+SMALL_SCREEN = "size 800x600"  # the others, as it is drawn faster
+TALL_SCREEN = "size 1000x6000"  # on which half a help text is seen to its end
 # Not read in a task: one is for the desktop's menu, one for a box, which a script answers unseen.
 UNUSED = {"icons/quendal.png", "icons/stop.svg"}
 # With a window system everything is slower; one file of each kind stands for the others.
@@ -29,17 +32,10 @@ GROUPS = (  # title, pattern
     ("icons `icons/*.svg`", r"icons/.*\.svg"),
     ("`icons/quendal.png`, which the program doesn't read", r"icons/quendal\.png"),
 )
-SHOWN = {  # what the learner has of it; tests of their own look at the screen
-    "frames": "the frames that are there",
-    "all other": "nothing in its place",
-    "their twins": "the picture, less sharp",
-    "sprites": "the scene without it",
-    "sounds": "everything, and hears nothing",
-    "icons `": "the icon of the theme",
-    "`icons/": "everything",
-}
-HELP = {"missing": "Dieser Hilfetext kann leider nicht angezeigt werden.",
-        "cut in half": "the text up to there and: Der Rest dieses Hilfetextes fehlt leider."}
+HELP_SENTENCES = {  # what stands in place of a help text, and behind a part of one
+    "all": "Dieser Hilfetext kann leider nicht angezeigt werden.",
+    "rest": "Der Rest dieses Hilfetextes fehlt leider."}
+NOTICE = r"\pard\plain\sb200\i %s\i0\par"  # set as the program does it
 
 
 def group_of(name):
@@ -60,7 +56,7 @@ def general(line, name, folder):
     line = line.replace(str(folder) + "/", "").replace("\\", "/")
     stem = str(Path(name).with_suffix(""))
     line = line.replace(name, "FILE").replace("sprite missing: " + stem, "sprite missing: SPRITE")
-    return re.sub(r"\d+", "N", line)
+    return re.sub(r"(?<!UTF-)\d+", "N", line)
 
 
 def names_it(line, name):
@@ -76,34 +72,76 @@ def lines_expected(name, fault, whole):
     return 0 if another or name in UNUSED or ("x3/" in name and fault == "missing") else 1
 
 
+def without_end(rtf):
+    """The half of a help text, closed so that all of it reads."""
+    depth = rtf.replace("\\{", "").replace("\\}", "").count("{")
+    depth -= rtf.replace("\\{", "").replace("\\}", "").count("}")
+    text_ended = re.search(r"\\(par|row)\s*(\\[a-z]+-?\d*\s*)*$", rtf)
+    in_word = re.search(r"\\[a-z]+-?\d*$", rtf)
+    return (rtf + " " * bool(in_word) + "}" * (depth - 1) + "\\par" * (not text_ended) +
+            NOTICE % HELP_SENTENCES["rest"] + "}")
+
+
 class DataFaults:
     def __init__(self, setting, desktop):
         self.data = DataCopy(setting.data, setting.folder / "data")
         self.player = Player(setting.script_player, setting.data, setting.folder / "run",
                              desktop)
+        self.bare = Player(setting.script_player, setting.data, setting.folder / "bare",
+                           desktop, XDG_DATA_DIRS=str(setting.folder / "no themes"))
         self.made = setting.made
         self.desktop = desktop
         self.failures = []
+        self.no_icon = ()  # what is seen without the icon that is at fault
+        self.whole = {}  # what is seen while nothing is at fault, by script
 
     def script(self, name):
         lines = task_for(name, self.made)
-        if name.endswith((".wmf", ".gif")) and self.desktop and "Scene" in lines[0]:
+        if name.endswith(".wmf") and self.desktop:
             lines = lines[:2] + ["wait 3", "click pic_Stage", "wait 3", "key ESC", "expect ended"]
         silent = [] if name.endswith(".wav") else ["sound 2"]
-        return (on_data(silent + lines, self.data.folder) if "x3/" not in name else
-                on_data([LARGE_SCREEN, *silent, *lines], self.data.folder))
+        return on_data([*self.screen(name), *silent, *lines], self.data.folder)
 
-    def play(self, name, fault):
+    def screen(self, name):
+        if "x3/" in name:
+            return [LARGE_SCREEN]
+        return [TALL_SCREEN if name.endswith(".rtf") else SMALL_SCREEN] if self.desktop else []
+
+    def look(self, name, player=None):
+        player = player or self.player
+        lines, pictures = looks.played(self.script(name), player.folder,
+                                       self.desktop and not name.endswith(".wav"))
+        outcome = player.play(lines)
+        return outcome, looks.seen(outcome, pictures)
+
+    def reference(self, name):
+        """What is seen while all is well."""
+        key = "\n".join(self.script(name))
+        if key not in self.whole:
+            outcome, self.whole[key] = self.look(name)
+            if not outcome.ended() or outcome.lines:
+                self.failures.append(f"{name} whole: {outcome.status} {outcome.lines}")
+        return self.whole[key]
+
+    def play(self, name, fault, player=None):
         # The curve in place of a missing one is looked for when one is missing.
         others = ["phstark10.crv"] if name == "ph.crv" else []
         with self.data.faults(others, "missing"), self.data.fault(name, fault):
-            outcome = self.player.play(self.script(name))
+            outcome, seen = self.look(name, player)
         outcome.lines = [line for line in outcome.lines
                          if not (others and names_it(line, others[0]))]
-        return outcome
+        return outcome, seen
 
-    def check(self, name, fault):
-        outcome = self.play(name, fault)
+    def standard_curve(self):
+        """The words of the comparison that has `ph.crv` in it."""
+        if "standard" not in self.whole:
+            with self.data.fault("phstark10.crv", "missing"):
+                self.whole["standard"] = self.look("phstark10.crv")[1]
+        return self.whole["standard"].curve
+
+    def check(self, name, fault, without):
+        """The line, what the learner has, and what was seen."""
+        outcome, seen = self.play(name, fault)
         case = f"{name} {fault}"
         if not outcome.ended():
             self.failures.append(f"{case}: ended with {outcome.status}: {outcome.lines}")
@@ -113,44 +151,92 @@ class DataFaults:
         least = 0 if "x3/" in name and name not in SAMPLE else expected
         if len(outcome.lines) != len(told) or not least <= len(told) <= expected:
             self.failures.append(f"{case}: {expected} line asked for, not {outcome.lines}")
-        words = [text for text in outcome.boxes() if "wurde nicht gefunden" in text]
-        return (" / ".join(general(line, name, self.data.folder) for line in outcome.lines),
-                " / ".join(text.replace(name, "FILE") for text in words))
+        line = " / ".join(general(line, name, self.data.folder) for line in outcome.lines)
+        return line, self.has(name, fault, seen, without, bool(told)), seen
+
+    def has(self, name, fault, seen, without, told):
+        """What the learner has, as the run showed it."""
+        whole = self.reference("phstark10.crv" if name == "ph.crv" else name)
+        found = [f"„{text.replace(name, 'FILE')}“" for text in seen.boxes
+                 if text not in whole.boxes and name != "ph.crv"]
+        if name.endswith(".crv"):
+            standard = self.standard_curve() if fault == "missing" else ""
+            found.append(looks.curve_words(seen, whole, standard))
+        if name.endswith(".wav"):
+            found.append("the sound is silent" if told else "the sound plays")
+        found += [looks.picture_words(seen, whole), self.on_screen(name, fault, seen, without),
+                  looks.text_words(seen, whole)]
+        return "; ".join(text for text in found if text)
+
+    def on_screen(self, name, fault, seen, without):
+        if name.endswith(".rtf"):
+            return self.help_shown(name, seen)
+        whole = self.reference("phstark10.crv" if name == "ph.crv" else name)
+        words = looks.screen_words(seen, whole, without)
+        if "icons/" in name and words not in ("", "the same screen"):
+            return self.icon_shown(name, fault, seen)
+        return words
+
+    def icon_shown(self, name, fault, seen):
+        """The theme's icon makes another screen than where there is no theme either."""
+        bare = self.play(name, fault, self.bare)[1] if fault == "missing" else None
+        self.no_icon = bare.screens if bare else self.no_icon
+        return "no icon" if seen.screens == self.no_icon else "the icon of the theme"
+
+    def help_shown(self, name, seen):
+        """Compared with a help text that says what is expected."""
+        text = (self.data.data / name).read_text(encoding="latin-1")
+        place = self.data.folder / name
+        expected = {HELP_SENTENCES["all"]: "{\\rtf1\\ansi" + NOTICE % HELP_SENTENCES["all"] + "}",
+                    "the text up to there and: " + HELP_SENTENCES["rest"]:
+                        without_end(text[: len(text) // 2])}
+        for words, rtf in expected.items():
+            key = f"{name} {words}"
+            if key not in self.whole:
+                place.unlink()
+                place.write_text(rtf, encoding="latin-1")
+                self.whole[key] = self.look(name)[1]
+                place.unlink()
+                self.data.link(name)
+            if seen.screens == self.whole[key].screens:
+                return words
+        return "another text"
 
     def rows(self, names):
         """By group, fault and what happened: the number of files."""
         found = {}
         for name in names:
+            without = None
             for fault in FAULTS:
-                what = (group_of(name), fault, *self.check(name, fault))
+                line, words, seen = self.check(name, fault, without)
+                without = without or seen
+                what = (group_of(name), fault, line, words)
                 found[what] = found.get(what, 0) + 1
         return found
 
 
-def shown(title, fault, words):
-    if title.startswith("help"):
-        return HELP.get(fault, HELP["missing"])
-    if title.startswith("titration curves") and fault == "missing":
-        return words
-    if "curve" in title:
-        return ("the part that reads, or a comparison without a curve" if fault == "cut in half"
-                else "the comparison without a curve")
-    return next(text for start, text in SHOWN.items() if title.startswith(start))
+def counted(cases):
+    """What came how often; no number where it came always."""
+    if len(cases) == 1:
+        return next(iter(cases))
+    return "<br>".join(f"{count} x {text}" for text, count in sorted(cases.items()))
 
 
 def described(found):
-    """One row for a group and a fault; several lines that may come stand one below the other."""
+    """One row for a group and a fault; what differs from file to file stands one below another."""
     order = [title for title, _ in GROUPS]
     rows = []
     for title in order:
         for fault in FAULTS:
-            cases = {(line, words): count for (group, kind, line, words), count in found.items()
-                     if (group, kind) == (title, fault)}
-            if cases:
-                lines = "<br>".join(f"`{line}`" if line else "none" for line, _ in sorted(cases))
-                words = max(words for _, words in cases)
-                rows.append((title, fault, str(sum(cases.values())), shown(title, fault, words),
-                             lines))
+            lines, words = {}, {}
+            for (group, kind, line, text), count in found.items():
+                if (group, kind) == (title, fault):
+                    line = f"`{line}`" if line else "none"
+                    lines[line] = lines.get(line, 0) + count
+                    words[text] = words.get(text, 0) + count
+            if lines:
+                rows.append((title, fault, str(sum(lines.values())), counted(words),
+                             "<br>".join(sorted(lines))))
     return table(("files", "fault", "cases", "the learner has", "line on standard error"), rows)
 
 

@@ -5,18 +5,15 @@ import shutil
 import struct
 from pathlib import Path
 
+import looks
 from data_copy import DataCopy
 from program import Player
 from table import section, table
-from tasks import POWERS, QUIT, TASKS, bench, choose, lens, on_data, scene
+from tasks import POWERS, QUIT, TASKS, bench, choose, lens, on_data, opened, scene
 
 FONTS = Path("/usr/share/fonts/truetype/liberation")
-# What the learner has was looked at. The second is a wide one that the program doesn't ask for.
-SINGLE_FONTS = {
-    "LiberationSans-Regular": "everything",
-    "LiberationMono-Regular": "everything; captions of tabs are shortened, and a button within a "
-                              "text covers some of its letters",
-}
+# The second is a wide one that the program doesn't ask for.
+SINGLE_FONTS = ("LiberationSans-Regular", "LiberationMono-Regular")
 FONTS_CONF = """<?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
 <fontconfig><dir>{0}</dir><cachedir>{0}/cache</cachedir></fontconfig>
@@ -41,70 +38,90 @@ class Machine:
         if not holds:
             self.failures.append(what)
 
-    def play(self, title, lines, **environment):
+    def play(self, title, lines, desktop=True, **environment):
         player = Player(self.setting.script_player, self.setting.data,
-                        self.setting.folder / "run", True, **environment)
-        outcome = player.play(lines)
+                        self.setting.folder / "run", desktop, **environment)
+        script, pictures = looks.played(lines, self.setting.folder, desktop)
+        outcome = player.play(script)
         self.expect(f"{title}: {outcome.status} {outcome.lines}", outcome.ended())
-        return outcome
+        return outcome, looks.seen(outcome, pictures)
 
-    def case(self, title, lines, what, told=0, **environment):
-        outcome = self.play(title, lines, **environment)
+    def case(self, title, lines, words, told=0, **environment):
+        """`words` of what is seen, which is handed on."""
+        outcome, seen = self.play(title, lines, **environment)
         self.expect(f"{title}: {told} line asked for, not {outcome.lines}",
                     len(outcome.lines) == told)
         line = re.sub(r"/\S+\.svg", "FILE", " / ".join(outcome.lines))
-        self.rows.append((title, what, f"`{line}`" if line else ""))
+        self.rows.append((title, words(seen), f"`{line}`" if line else ""))
+        return seen
 
 
 def sound(machine):
-    outcome = machine.play("no sound device", bench(), **WITHOUT_SOUND)
+    """No machine need have a device: where nobody listens the same is shown."""
+    title = "no sound device"
+    silent = machine.play("silent", bench(), desktop=False)[1]
+    outcome, seen = machine.play(title, bench(), **WITHOUT_SOUND)
     lines = [line for line in outcome.machine if line.startswith("quendal")]
-    machine.expect(f"no sound device: {lines} {outcome.lines}",
+    machine.expect(f"{title}: {lines} {outcome.lines}",
                    lines == [NO_DEVICE] and not outcome.lines)
-    machine.rows.append(("no sound device", "everything, and hears nothing", f"`{NO_DEVICE}`"))
+    words = looks.text_words(seen, silent)
+    machine.expect(f"{title}: {words}", words == "the same texts")
+    machine.rows.append((title, words + " and no sound", f"`{NO_DEVICE}`"))
+
+
+def icon_words(usual, bare):
+    """`bare` holds what is seen without any icon, once that was seen."""
+    def words(seen):
+        if seen.words != usual.words:
+            return "other texts"
+        if seen.screens == usual.screens:
+            return "the same screen, so the program's own icons"
+        return ("the same texts on buttons without an icon" if seen in bare else
+                "the same texts, and not all icons")
+    return words
 
 
 def icons(machine):
     folder = machine.setting.folder
-    empty = folder / "no themes"
-    empty.mkdir()
-    machine.case("no icon theme", ["sound 2", *bench()], "the program's own icons",
-                 XDG_DATA_DIRS=str(empty))
+    empty = {"XDG_DATA_DIRS": str(folder / "no themes")}
+    (folder / "no themes").mkdir()
+    lines = ["sound 2", *opened("phstark")]
+    usual = machine.play("all icons", lines)[1]
     data = DataCopy(machine.setting.data, folder / "data")
-    with data.fault("icons/help.svg", "missing"):
-        machine.case("no icon theme, and one of the own icons is missing",
-                     on_data(["sound 2", *bench()], data.folder), "buttons with their text alone",
-                     told=1, XDG_DATA_DIRS=str(empty))
+    on_copy = on_data(lines, data.folder)
     shutil.rmtree(data.folder / "icons")
-    machine.case("no icon theme and no own icons", on_data(["sound 2", *bench()], data.folder),
-                 "buttons with their text alone", XDG_DATA_DIRS=str(empty))
+    bare = machine.play("no icons", on_copy, **empty)[1]
+    machine.expect("icons: they are seen", bare.screens != usual.screens)
+    words = icon_words(usual, (bare,))
+    machine.case("no icon theme", lines, words, **empty)
+    one = DataCopy(machine.setting.data, folder / "one")
+    with one.fault("icons/help.svg", "missing"):
+        machine.case("no icon theme, and one of the own icons is missing",
+                     on_data(lines, one.folder), words, told=1, **empty)
+    machine.case("no icon theme and no own icons", on_copy, words, **empty)
 
 
-def with_fonts(machine, title, picture, environment=None, what=""):
-    """The bench, the help text and a picture of the bench."""
-    lines = ["sound 2", *bench()]
-    lines[-2:-2] = ["click but_Help", "expect form frm_DialogHelp", "close",
-                    f'screenshot "{picture}"']
-    if environment:
-        machine.case(title, lines, what, **environment)
-    else:
-        machine.play(title, lines)
+def font_words(usual):
+    def words(seen):
+        looked = "the same screen" if seen.screens == usual.screens else "in other letters"
+        return looks.text_words(seen, usual) + ", " + looked
+    return words
 
 
 def one_font(machine):
-    usual = machine.setting.folder / "all.png"
-    with_fonts(machine, "all fonts", usual)
-    for font, what in SINGLE_FONTS.items():
+    """The bench and the help text."""
+    lines = ["sound 2", *opened("phstark")]
+    lines[-2:-2] = ["click but_Help", "expect form frm_DialogHelp", looks.LOOK, "close"]
+    usual = machine.play("all fonts", lines)[1]
+    for font in SINGLE_FONTS:
         folder = machine.setting.folder / font
         folder.mkdir()
         shutil.copy(FONTS / (font + ".ttf"), folder)
         conf = folder / "fonts.conf"
         conf.write_text(FONTS_CONF.format(folder), encoding="utf-8")
-        picture = folder / "bench.png"
-        with_fonts(machine, f"no font but one, {font}", picture, {"FONTCONFIG_FILE": str(conf)},
-                   what)
-        machine.expect(f"{font}: same size", png_size(picture) == png_size(usual) != (0, 0))
-    machine.expect(f"{font}: another picture", picture.read_bytes() != usual.read_bytes())
+        seen = machine.case(f"no font but one, {font}", lines, font_words(usual),
+                            FONTCONFIG_FILE=str(conf))
+        machine.expect(f"{font}: another screen", seen.screens != usual.screens)
 
 
 def devices(setting):
@@ -177,7 +194,7 @@ def pictures_of(machine, screen):
     folder.mkdir()
     gallery = Gallery(folder)
     for lines in gallery.scripts():
-        outcome = machine.play(f"{screen} {lines[-4:]}", [f"size {screen}", *lines])
+        outcome, _ = machine.play(f"{screen} {lines[-4:]}", [f"size {screen}", *lines])
         machine.expect(f"{screen}: {outcome.lines}", not outcome.lines)
     return {form: png_size(gallery.path(form)) for form in gallery.forms}
 

@@ -64,6 +64,10 @@ def run(command, env, cwd, seconds=SECONDS):
                               capture_output=True, timeout=seconds, check=False)
     except subprocess.TimeoutExpired:
         return Outcome(HANG)
+    return outcome_of(done)
+
+
+def outcome_of(done):
     text = done.stderr.decode("utf-8", "replace").splitlines()
     return Outcome(done.returncode, events_of(done.stdout.decode("utf-8", "replace")),
                    [line for line in text if line and not OF_THE_MACHINE.search(line)],

@@ -3,6 +3,8 @@
 import re
 from pathlib import Path
 
+from looks import LOOK
+
 SCENES = {"h2o-hcl": 1, "h2o-h2o": 3, "h2o-hac": 4, "h3o-cl": 5, "fällung": 6, "ionen": 7}
 CONDUCTIVITY, POWERS = 7, 0
 # The stem of a curve: the tab and the button of its task, the form before it.
@@ -21,12 +23,13 @@ HELPS = {"strong.rtf": "phstark", "weak.rtf": "phschwach", "silver.rtf": "potsil
          "lf.rtf": "lf-strong-"}
 # Whole tasks with the mark that a picture or a sound belongs to.
 WITH_MARK = {1: "strong_free_10", 2: "lf_strong_break_behind", 3: "weak_mark_helped",
-             4: "lf_silver_quick", 5: "silver_mark_one", 6: "lf_silver_mark_helped"}
+             4: "silver_quick", 5: "silver_mark_one", 6: "lf_silver_mark_helped"}
 MARKS = {"win.gif": 1, "win_small.gif": 2, "bad.gif": 5, "sounds/result_good.wav": 1,
          "sounds/clapping.wav": 2, "sounds/correct.wav": 3, "sounds/say.wav": 4,
          "sounds/wrong.wav": 5, "sounds/result_bad.wav": 6}
 QUIT = ["menu mnu_FileQuit", "expect ended"]
-ROWS_OF_IONS = "lf_strong_rows"  # a made script that fills each of them
+TAB_OF_ICON = {"quit": 0, "quendal": 0, "camera": 1, "next": 3}
+LAST_STEP = "expect but_CalcStep(6).text == &Fertig"  # of a demo, when the button has the icon
 
 
 def concentration(digits):
@@ -75,8 +78,10 @@ def conducto_bench(stem):
 
 
 def lens():
+    """The lens is looked at once it is there."""
     return ["form frm_AppMagnify ShowWater true SourceLeft 900 SourceTop 100 SourceRight 1200 "
-            "SourceBottom 400", "start", "wait 1.5", "click pic_Screen", "wait 2", "expect ended"]
+            "SourceBottom 400", "start", "wait 1.5", LOOK, "click pic_Screen",
+            "wait 2", "expect ended"]
 
 
 def weak_lens():
@@ -98,6 +103,12 @@ def scene(number):
     return lines + steps + ["wait 1", *leave, "expect ended"]
 
 
+def powers(picture):
+    """The lesson, until that picture was looked at."""
+    lines, steps = scene(POWERS)[:4], ["wait 3", LOOK, "key +"] * picture
+    return [*lines, *steps, "wait 1", "key ESC", "expect ended"]
+
+
 def whole_task(made, script):
     """A made script, without what it expects of sounds."""
     text = (Path(made) / (script + ".qs")).read_text(encoding="utf-8")
@@ -110,17 +121,43 @@ def help_task(name):
             "expect form frm_DialogHelp", "close", *QUIT]
 
 
+def tab(number):
+    return ["name Mia", "start", f"choose SSTab1 {number}", LOOK, "click ctl_Button5",
+            "expect ended"]
+
+
+def dripping():
+    """Each frame of the tap, which stands for 0.05 s."""
+    lines = ["name Mia", "start", *choose("phstark"), "click ctl_Button1", "settle",
+             "click ctl_Button3", "wait 0.02", LOOK]
+    return lines + ["wait 0.05", LOOK] * 3 + ["settle", *QUIT]
+
+
+def opened(stem):
+    """The bench of a task as it opens."""
+    return ["name Mia", "start", *choose(stem), LOOK, *QUIT]
+
+
+def answered():
+    """With a right answer and a wrong one."""
+    lines = bench()
+    return [*lines[:lines.index("key ENTER") + 1], LOOK, *lines[lines.index("key ENTER") + 1:-2],
+            LOOK, *QUIT]
+
+
 def icon_task(icon, made):
-    """Where this icon is shown."""
+    """Where this icon is shown, as shortly as possible."""
     if icon == "abort":
-        return whole_task(made, ROWS_OF_IONS)
-    if icon in ("quit", "quendal", "camera", "next"):
-        return tabs()
-    if icon in ("graph", "math", "add_point"):
-        return conducto_bench("lf-ph")
-    if icon in ("search", "attention"):
-        return weak_lens() if icon == "search" else lens()
-    return bench()
+        lines = whole_task(made, "lf_silver_demo_late")
+        return [*lines[:lines.index(LAST_STEP)], LOOK, *QUIT]
+    if icon in TAB_OF_ICON:
+        return tab(TAB_OF_ICON[icon])
+    if icon in ("ok", "no", "calculator", "stop"):
+        return answered()
+    if icon == "attention":
+        return lens()
+    return opened({"graph": "lf-strong-", "add_point": "lf-ph", "search": "phschwach"}
+                  .get(icon, "phstark"))
 
 
 def task_for(name, made):
@@ -139,16 +176,31 @@ def task_for(name, made):
         return ["name Mia", "start", *choose(STARTS[plain])[:-1], "expect form " +
                 TASKS[STARTS[plain]][2], "click bar_Buttons", *QUIT]
     if path.parts[0] == "phn":
-        return scene(POWERS)
+        return powers(int(path.stem[1:]))
     if plain.startswith("lens") or name == "sounds/collide.wav":
         return lens()
     if name == "sounds/ex.wav":
-        return scene(SCENES["h2o-hcl"])
+        return [*scene(SCENES["h2o-hcl"])[:4], "wait 4", "key ESC", "expect ended"]
     if path.parts[0] == "icons":
         return icon_task(path.stem, made)
     if plain in ("header.gif", "splash.gif"):
         return start_dialog()
+    if plain == "ab_01.gif":
+        return opened("phstark")
+    if plain.startswith("bürette"):
+        return dripping()
     return weak_lens() if plain.startswith("magnify") else bench()
+
+
+def reporting_task(setting_line, answers=1):
+    """Some points of the curve with the right pH, each of which is reported."""
+    lines = [setting_line, "name Mia", "sound 2", "start", *choose("phstark"), "click ctl_Button1",
+             "settle"]
+    values = ("0", "0,09", "0,18", "0,27")
+    for value in values[:answers]:
+        lines += ["click but_Calc", f"type txt_Ph {value}", "key ENTER", "expect frm_CalcDirect."
+                  "visible == false", "click ctl_Button3", "settle"]
+    return lines
 
 
 def on_data(lines, data):
