@@ -55,10 +55,10 @@ Values single(double (*value)(const Titration&, double)) {
     };
 }
 
-Family acid(const char* stem, double (*pH)(const Titration&, double),
-            decltype(Family::notes) notes) {
+Family phCurve(const char* stem, const char* reagent, double (*pH)(const Titration&, double),
+               decltype(Family::notes) notes) {
     return {.stem = stem,
-            .reagent = "V(NaOH)",
+            .reagent = reagent,
             .series = {"pH-Wert"},
             .yTitle = "pH-Wert",
             .decimals = 4,
@@ -118,8 +118,8 @@ Family exponentsOfStrongAcid() {
 
 std::vector<Family> familiesOfAllSamples() {
     return {
-        acid("phstark", strongAcidPh, strongAcidNotes),
-        acid("phschwach", weakAcidPh, weakAcidNotes),
+        phCurve("phstark", "V(NaOH)", strongAcidPh, strongAcidNotes),
+        phCurve("phschwach", "V(NaOH)", weakAcidPh, weakAcidNotes),
         silverElectrode(),
         conductivity("lf-strong-", "V(NaOH)", kStrongAcidConductometry, strongConductivityNotes),
         conductivity("lf-weak-", "V(NaOH)", kWeakAcidConductometry, weakConductivityNotes),

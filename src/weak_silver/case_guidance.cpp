@@ -42,7 +42,7 @@ CaseGuidance::CaseGuidance(Workbench& bench, const GuidanceTables& tables, const
 
 LayoutState CaseGuidance::layoutState() const {
     return {.details = details(),
-            .behindEquivalence = false,
+            .baseInExcess = false,
             .onlySample = bench().vVol == 10,
             .caseNumber = presentCase()};
 }

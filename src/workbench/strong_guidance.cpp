@@ -10,14 +10,6 @@
 
 namespace quendal {
 
-namespace {
-
-double sampleMl() {
-    return 10 * session().SessionConcentration;
-}
-
-} // namespace
-
 StrongGuidance::StrongGuidance(Workbench& bench)
     : GuidedCalculation(bench, strongTables(),
                         {.headings = 5,
@@ -28,6 +20,19 @@ StrongGuidance::StrongGuidance(Workbench& bench)
     design();
 }
 
+double StrongGuidance::sampleMl() {
+    return 10 * session().SessionConcentration;
+}
+
+PointValues StrongGuidance::pointAt(double concentration, double reagentVol,
+                                    double totalVol) const {
+    return strongAcidPoint(concentration, reagentVol, totalVol);
+}
+
+bool StrongGuidance::baseInExcess() const {
+    return sampleMl() < bench().vVol - 10;
+}
+
 PointValues StrongGuidance::referenceValues() {
     Workbench& form = bench();
     form.readAmounts();
@@ -35,14 +40,14 @@ PointValues StrongGuidance::referenceValues() {
         return point();
     }
     const PointValues values =
-        strongAcidPoint(session().SessionConcentration, form.vBaseVol, form.hGetVol(-1));
+        pointAt(session().SessionConcentration, form.vBaseVol, form.hGetVol(-1));
     // From here on it means the concentration of the excess, which is what step 10 asks for.
     form.vConc = values.conc;
     return values;
 }
 
 LayoutState StrongGuidance::layoutState() const {
-    return {.details = details(), .behindEquivalence = sampleMl() < bench().vVol - 10};
+    return {.details = details(), .baseInExcess = baseInExcess()};
 }
 
 int StrongGuidance::route(int step) {
@@ -60,8 +65,8 @@ int StrongGuidance::route(int step) {
     if (step == 8 && !details().conc) {
         return 10;
     }
-    // No pOH is needed up to the equivalence point.
-    if (step == 11 && sampleMl() + 10 >= bench().vVol) {
+    // Without base in excess no pOH is needed.
+    if (step == 11 && !baseInExcess()) {
         return 12;
     }
     return step;
@@ -73,7 +78,7 @@ bool StrongGuidance::waysChangeHere() const {
 }
 
 void StrongGuidance::writeLabels(const LayoutState& state) {
-    const bool base = state.behindEquivalence;
+    const bool base = state.baseInExcess;
     if (state.details.acid) {
         lab_Calc(5).setTerm(inputText(1) + " * " + inputText(2));
     } else {

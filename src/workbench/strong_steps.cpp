@@ -10,8 +10,8 @@ namespace {
 bool withoutConc(const LayoutState& s) {
     return !s.details.conc;
 }
-bool upToEquivalence(const LayoutState& s) {
-    return !s.behindEquivalence;
+bool withoutPOH(const LayoutState& s) {
+    return !s.baseInExcess;
 }
 
 constexpr StepRow kTail[] = {
@@ -66,7 +66,7 @@ constexpr ShownRow kTailShown[] = {
     {Part::Line, 4, 10},
     // 5. pH
     {Part::Heading, 4, 11},
-    {Part::Heading, 4, 12, upToEquivalence},
+    {Part::Heading, 4, 12, withoutPOH},
     {Part::Label, 27, 11},
     {Part::Label, 26, 11},
     {Part::Input, 11, 11},

@@ -49,7 +49,7 @@ expect session.SessionCalcTerm == false
 expect session.ParticleBackColor == #99cccc
 expect session.PlainChloride == true
 # A concentration reads with a point; a volume follows the locale's sign.
-expect lab_Vol(2).text == "0.8 mol/L"
+until lab_Vol(2).text == "0.8 mol/L"
 expect lab_Vol(0).text == "0.000 L"
 expect series(1).count == 0
 expect beaker.count == 0

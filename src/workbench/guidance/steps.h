@@ -32,9 +32,9 @@ constexpr Cases inCases(Numbers... numbers) {
 // What decides about the layout beside the steps reached.
 struct LayoutState {
     Details details;
-    bool behindEquivalence = false; // more reagent than sample
-    bool onlySample = false;        // no reagent has been added
-    int caseNumber = 0;             // from 1; 0 on a form without cases
+    bool baseInExcess = false; // OH- is left over, so that the way to the pH is by the pOH
+    bool onlySample = false;   // no reagent has been added
+    int caseNumber = 0;        // from 1; 0 on a form without cases
 
     bool inOneOf(Cases cases) const { return ((cases >> caseNumber) & 1U) != 0; }
 };
