@@ -26,12 +26,16 @@ STAGES = {
     "silver calculation": _TASK + "click ctl_Button8\nclick bar_Buttons\n" +
                           "click ctl_Button1\nsettle\nclick ctl_Button3\nsettle\n" +
                           "click but_Calc\nwait 1\n",
+    "conducto weak start": _TASK + "click but_CunductoWeak\n",
+    "conducto silver start": _TASK + "click ctl_Button11\n",
     "conducto strong start": _TASK + "click ctl_Button9\n",
     "conducto strong": _TASK + "click ctl_Button9\nclick bar_Buttons\nwait 1\n",
     "conducto strong calculation": _TASK + "click ctl_Button9\nclick bar_Buttons\n" + _FILLED +
                                    "click but_HelpCalc\nwait 1\n",
     "conducto weak": _TASK + "click but_CunductoWeak\nclick bar_Buttons\nwait 1\n",
     "conducto silver": _TASK + "click ctl_Button11\nclick bar_Buttons\nwait 1\n",
+    "conducto silver calculation": _TASK + "click ctl_Button11\nclick bar_Buttons\n" + _FILLED +
+                                   "click but_HelpCalc\nwait 1\n",
     "conducto log": _DEMO + "click ctl_Button19\nclick bar_Buttons\nwait 1\n",
     "conducto log calculation": _DEMO + "click ctl_Button19\nclick bar_Buttons\n" + _FILLED +
                                 "wait 1\n",

@@ -94,7 +94,19 @@ def faults_of_states(window, controls):
                                                         " or ".join(sorted(roles)))
         else:
             yield from faults
+    yield from faults_of_numbers(nodes, controls)
     yield from faults_of_focus(nodes, controls)
+
+
+def faults_of_numbers(nodes, controls):
+    """No object may stand for two controls."""
+    visible = [roles_of(control["properties"]) for control in controls
+               if control["properties"]["visible"] == "true"]
+    for roles in {frozenset(roles) for roles in visible if roles}:
+        wanted = sum(roles == set(one or ()) for one in visible)
+        found = sum(node.role in roles for node in nodes)
+        if found < wanted:
+            yield "%d objects for %d controls: %s" % (found, wanted, " or ".join(sorted(roles)))
 
 
 def faults_of_focus(nodes, controls):
