@@ -12,17 +12,17 @@ enter_own_space "$PWD/tools/try_fresh.sh" "$@"
 
 install_packages debootstrap git
 make_fresh
-mkdir "$fresh/quendal"
+mkdir "$fresh/source"
 git ls-files -z --cached --others --exclude-standard | while IFS= read -r -d '' file; do
     [ ! -e "$file" ] || printf '%s\0' "$file"
-done | tar -c --null -T - | tar -x -C "$fresh/quendal"
+done | tar -c --null -T - | tar -x -C "$fresh/source"
 
 say "Running there: $*"
 status=0
-in_fresh sh -c 'cd /quendal && exec "$@"' sh "$@" || status=$?
-if ls "$fresh"/quendal/build/tour/*.png >/dev/null 2>&1; then
+in_fresh sh -c 'cd /source && exec "$@"' sh "$@" || status=$?
+if ls "$fresh"/source/build/tour/*.png >/dev/null 2>&1; then
     mkdir -p build/fresh-tour
-    cp "$fresh"/quendal/build/tour/* build/fresh-tour/
+    cp "$fresh"/source/build/tour/* build/fresh-tour/
 fi
 [ $status -eq 0 ] && say "It went well in a fresh system: $*"
 exit $status

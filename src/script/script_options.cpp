@@ -43,7 +43,8 @@ bool takeMonkey(ScriptOptions& options) {
     if (words.size() == 3) {
         monkey.form = words[2];
     }
-    return numbers && monkey.events > 0 && !options.desktop && !options.keepGoing;
+    const bool alone = !options.desktop && !options.keepGoing && !options.byKeys;
+    return numbers && monkey.events > 0 && alone;
 }
 
 } // namespace

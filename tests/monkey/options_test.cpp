@@ -35,6 +35,7 @@ TEST(MonkeyOptions, AnythingElseIsRefused) {
     EXPECT_FALSE(read({"--monkey", "1", "5", "frm_AppIntro", "more"}));
     EXPECT_FALSE(read({"--monkey", "--desktop", "1", "5"}));
     EXPECT_FALSE(read({"--monkey", "--keep-going", "1", "5"}));
+    EXPECT_FALSE(read({"--monkey", "--by-keys", "1", "5"}));
 }
 
 TEST(MonkeyOptions, HelpAndFilesStayWhatTheyWere) {

@@ -18,7 +18,8 @@ grep -oE '\]\([^)#:]+\)' "$place/share/doc/quendal/handbuch.md" | tr -d '])(' | 
     [ -e "$place/share/doc/quendal/$file" ] || { echo "the handbook misses $file"; exit 1; }
 done
 for program in "$place"/bin/*; do
-    ! grep -qF "$1/" "$program" || { echo "$program knows the source tree"; exit 1; }
+    # Its own folders, and not a path that ends like it.
+    ! LC_ALL=C grep -qaE "(^|[^[:alnum:]_./-])$1/(data|src|tests|build)" "$program" || { echo "$program knows the source tree"; exit 1; }
 done
 
 cd "$folder"
