@@ -67,7 +67,7 @@ check_purged() { # list of the package's files
     in_fresh apt-get purge -q -y quendal >/dev/null
     ! in_fresh dpkg-query -W quendal 2>/dev/null || fail "the package is still known"
     local left
-    left=$(find "$fresh" -xdev -path "$fresh/proc" -prune -o -path "$fresh/home" -prune -o \
+    left=$(find "$fresh" -mindepth 1 -xdev -path "$fresh/proc" -prune -o -path "$fresh/home" -prune -o \
         -iname '*quendal*' -print)
     [ -z "$left" ] || fail "left behind: $left"
     while read -r file; do
